@@ -1,0 +1,35 @@
+# One helper registers every test of the project.
+#   quarzel_add_test(NAME <name> KIND unit|gui SOURCES <files...>)
+#   quarzel_add_script_test(<script.qzs>)   expects <script>.out beside it
+include(GoogleTest)
+
+function(quarzel_add_test)
+  cmake_parse_arguments(T "" "NAME;KIND" "SOURCES" ${ARGN})
+  add_executable(${T_NAME} ${T_SOURCES})
+  target_include_directories(${T_NAME} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+  if(T_KIND STREQUAL "unit")
+    target_link_libraries(${T_NAME} PRIVATE quarzel_core GTest::gtest GTest::gtest_main)
+    gtest_discover_tests(${T_NAME} DISCOVERY_MODE PRE_TEST
+      PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+  else()
+    target_link_libraries(${T_NAME} PRIVATE quarzel_ui Qt6::Test)
+    add_dependencies(${T_NAME} quarzel quarzel_data)
+    add_test(NAME ${T_NAME} COMMAND ${T_NAME})
+    set_tests_properties(${T_NAME} PROPERTIES
+      ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QUARZEL_INSTANCE=test-${T_NAME};QUARZEL_APPDIR=${CMAKE_BINARY_DIR};QUARZEL_EXE=$<TARGET_FILE:quarzel>"
+      TIMEOUT 120)
+  endif()
+endfunction()
+
+function(quarzel_add_script_test script)
+  get_filename_component(base ${script} NAME_WE)
+  get_filename_component(dir ${script} DIRECTORY)
+  set(name script_${base})
+  set(work ${CMAKE_BINARY_DIR}/script-work/${base})
+  add_test(NAME ${name}
+    COMMAND ${CMAKE_COMMAND}
+      -DEXE=$<TARGET_FILE:quarzel> -DSCRIPT=${script} -DEXPECTED=${dir}/${base}.out
+      -DWORK=${work} -DINSTANCE=script-${base}
+      -P ${CMAKE_SOURCE_DIR}/cmake/RunScriptTest.cmake)
+  set_tests_properties(${name} PROPERTIES TIMEOUT 120)
+endfunction()

@@ -1,0 +1,238 @@
+#include "shell/CalcForm.h"
+
+#include <QApplication>
+#include <algorithm>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMdiSubWindow>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "shell/DialogService.h"
+#include "shell/PrintService.h"
+#include "shell/core/Arith.h"
+#include "shell/core/Module1.h"
+#include "shell/core/NumberFormat.h"
+
+CalcForm::CalcForm(const QString& name, const QString& caption, QWidget* parent) : QWidget(parent) {
+  setObjectName(name);
+  setCaption(caption);
+  setWindowIcon(QApplication::windowIcon());
+
+  auto* outer = new QVBoxLayout(this);
+  labelText_ = new QLabel(this);
+  labelText_->setObjectName("Label_Text");
+  QFont f = labelText_->font();
+  f.setBold(true);
+  labelText_->setFont(f);
+  labelText_->hide();
+  outer->addWidget(labelText_);
+
+  auto* row = new QHBoxLayout;
+  outer->addLayout(row);
+  grid_ = new QGridLayout;
+  grid_->setHorizontalSpacing(8);
+  grid_->setVerticalSpacing(6);
+  row->addLayout(grid_, 1);
+  buttons_ = new QVBoxLayout;
+  row->addSpacing(12);
+  row->addLayout(buttons_);
+
+  QPushButton* b1 = makeButton("Command1", "&Berechnung");
+  QPushButton* b2 = makeButton("Command2", "&Neu");
+  QPushButton* b3 = makeButton("Command3", "&Drucken");
+  QPushButton* b4 = makeButton("Command4", "&Schliessen");
+  b1->setDefault(true);
+  for (QPushButton* b : {b1, b2, b3, b4}) buttons_->addWidget(b);
+  buttons_->addStretch(1);
+  connect(b1, &QPushButton::clicked, this, [this] { compute(); });
+  connect(b2, &QPushButton::clicked, this, [this] { clearFields(); });
+  connect(b3, &QPushButton::clicked, this, [this] { printForm(); });
+  connect(b4, &QPushButton::clicked, this, [this] { closeForm(); });
+}
+
+bool CalcForm::keyPasses(QChar c) {
+  const ushort code = c.unicode();
+  if (code == 8) return true;
+  return code >= 44 && code <= 57 && code != 45 && code != 47;
+}
+
+QLineEdit* CalcForm::makeField(const QString& name, bool keyFilter) {
+  auto* e = new QLineEdit(this);
+  e->setObjectName(name);
+  e->setMinimumWidth(110);
+  e->installEventFilter(this);
+  if (keyFilter) filtered_.push_back(e);
+  return e;
+}
+
+QComboBox* CalcForm::makeUnitCombo(const QString& name, const units::UnitList& list, int start) {
+  auto* c = new QComboBox(this);
+  c->setObjectName(name);
+  c->addItems(units::names(list));
+  c->setCurrentIndex(start);
+  c->setMinimumContentsLength(5);
+  units_[c] = list;
+  return c;
+}
+
+QLabel* CalcForm::makeLabel(const QString& name, const QString& caption, QWidget* buddy) {
+  auto* l = new QLabel(caption, this);
+  l->setObjectName(name);
+  if (buddy) l->setBuddy(buddy);
+  return l;
+}
+
+QPushButton* CalcForm::makeButton(const QString& name, const QString& caption) {
+  auto* b = new QPushButton(caption, this);
+  b->setObjectName(name);
+  b->setAutoDefault(false);
+  return b;
+}
+
+void CalcForm::addRow(QLabel* label, QLineEdit* field, QComboBox* combo) {
+  const int r = grid_->rowCount();
+  grid_->addWidget(label, r, 0);
+  grid_->addWidget(field, r, 1);
+  if (combo) grid_->addWidget(combo, r, 2);
+}
+
+const units::UnitList& CalcForm::unitsOf(const QComboBox* combo) const {
+  static const units::UnitList none;
+  auto it = units_.find(combo);
+  return it == units_.end() ? none : it->second;
+}
+
+double CalcForm::read(const QLineEdit* field, const QComboBox* combo) const {
+  const double v = Module1::ParseNumber(field->text());
+  if (!combo) return v;
+  return v * units::factorAt(unitsOf(combo), combo->currentIndex());
+}
+
+bool CalcForm::writeResult(QLineEdit* field, QComboBox* combo, const units::Placement& rule, double value,
+                           const QString& pattern) {
+  if (!arith::ok(value)) return false;
+  if (!combo) return writeNumber(field, value, pattern);
+  const auto placed = units::place(unitsOf(combo), rule, value);
+  if (!placed || !arith::ok(placed->scaled)) return false;
+  combo->setCurrentIndex(placed->index);
+  field->setText(numfmt::format(placed->scaled, pattern));
+  return true;
+}
+
+bool CalcForm::writeNumber(QLineEdit* field, double value, const QString& pattern) {
+  if (!arith::ok(value)) return false;
+  field->setText(numfmt::format(value, pattern));
+  return true;
+}
+
+void CalcForm::computeEmptyField(const std::vector<Slot>& fieldSlots, const Solver& solve, int needed) {
+  std::vector<double> values;
+  int known = 0;
+  for (const Slot& s : fieldSlots) {
+    values.push_back(read(s.field, s.combo));
+    if (values.back() > 0) ++known;
+  }
+  if (known < needed) {
+    dialogs::msgBox(frame::kTwoValues);
+    return;
+  }
+  for (size_t i = 0; i < fieldSlots.size(); ++i) {
+    if (!fieldSlots[i].field->text().isEmpty()) continue;
+    const double result = solve(int(i), values);
+    writeResult(fieldSlots[i].field, fieldSlots[i].combo, fieldSlots[i].rule, result, fieldSlots[i].pattern);
+    return;
+  }
+  dialogs::msgBox(frame::kMustBeEmpty);
+}
+
+void CalcForm::activated() {
+  labelText_->setText(caption() + " " + Module1::AppIdentification);
+}
+
+void CalcForm::clearFields() {
+  for (QLineEdit* e : findChildren<QLineEdit*>()) {
+    // Editable combos carry a line edit of their own; only fields count.
+    if (qobject_cast<QComboBox*>(e->parentWidget())) continue;
+    e->clear();
+  }
+}
+
+QList<QWidget*> CalcForm::hiddenWhilePrinting() const {
+  QList<QWidget*> r;
+  for (QPushButton* b : findChildren<QPushButton*>()) {
+    if (b->objectName().startsWith("Command")) r << b;
+  }
+  return r;
+}
+
+void CalcForm::printForm() {
+  // Buttons hidden and the identification line shown while the image is
+  // taken; restored whatever happens.
+  const QList<QWidget*> hidden = hiddenWhilePrinting();
+  QList<QWidget*> wasVisible;
+  for (QWidget* w : hidden) {
+    if (!w->isHidden()) wasVisible << w;
+  }
+  labelText_->show();
+  for (QWidget* w : hidden) w->hide();
+  if (layout()) layout()->activate();
+  QString error;
+  const bool ok = printing::printWidgetImage(this, &error);
+  QApplication::processEvents();
+  if (!ok) dialogs::msgBox(error + Module1::NL + "Das Formular kann nicht gedruckt werden.");
+  labelText_->hide();
+  for (QWidget* w : wasVisible) w->show();
+}
+
+QMdiSubWindow* CalcForm::subWindow() const { return qobject_cast<QMdiSubWindow*>(parentWidget()); }
+
+void CalcForm::closeForm() {
+  if (QMdiSubWindow* sub = subWindow())
+    sub->close();
+  else
+    close();
+}
+
+void CalcForm::closeEvent(QCloseEvent* event) {
+  event->accept();
+  if (!unloadedOnce_) {
+    unloadedOnce_ = true;
+    emit unloaded();
+  }
+}
+
+bool CalcForm::eventFilter(QObject* watched, QEvent* event) {
+  auto* field = qobject_cast<QLineEdit*>(watched);
+  if (!field) return QWidget::eventFilter(watched, event);
+  switch (event->type()) {
+    case QEvent::KeyPress: {
+      auto* k = static_cast<QKeyEvent*>(event);
+      const bool filtered = std::find(filtered_.begin(), filtered_.end(), field) != filtered_.end();
+      // Characters are filtered; editing keys and shortcuts (copy, paste)
+      // have no character of their own and pass.
+      if (filtered && !k->text().isEmpty() && !(k->modifiers() & Qt::ControlModifier)) {
+        const QChar c = k->text().at(0);
+        if (c.unicode() >= 32 || c.unicode() == 8) {
+          if (!keyPasses(c)) return true;
+        }
+      }
+      break;
+    }
+    case QEvent::KeyRelease: {
+      auto* k = static_cast<QKeyEvent*>(event);
+      if (!k->isAutoRepeat()) keyReleased(field, k->key());
+      break;
+    }
+    case QEvent::FocusOut:
+      focusLeft(field);
+      break;
+    default:
+      break;
+  }
+  return QWidget::eventFilter(watched, event);
+}

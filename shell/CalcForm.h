@@ -1,0 +1,110 @@
+#pragma once
+// The frame every calculator form shares: labelled number fields with
+// unit-prefix combos, the buttons "&Berechnung", "&Neu", "&Drucken" and
+// "&Schliessen", the identification line that shows only on the printout,
+// the key filter of the fields, and the empty-field rule of the simple
+// calculators. A form states its controls, patterns and formulas and
+// overrides what it does differently.
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLineEdit>
+#include <QString>
+#include <QWidget>
+#include <functional>
+#include <map>
+#include <vector>
+
+#include "shell/core/UnitPrefix.h"
+
+class QLabel;
+class QPushButton;
+class QVBoxLayout;
+class QMdiSubWindow;
+
+class CalcForm : public QWidget {
+  Q_OBJECT
+ public:
+  CalcForm(const QString& name, const QString& caption, QWidget* parent = nullptr);
+
+  QString caption() const { return windowTitle(); }
+  void setCaption(const QString& caption) { setWindowTitle(caption); }
+  QString tag() const { return tag_; }
+  void setTag(const QString& tag) { tag_ = tag; }
+
+  // Handlers, as the main window and script mode invoke them.
+  virtual void activated();      // the form became the active child window
+  virtual void compute() = 0;    // Command1
+  virtual void clearFields();    // Command2: every text field emptied
+  virtual void printForm();      // Command3
+  void closeForm();              // Command4
+
+  // Text fields whose keys pass the frame's key filter.
+  static bool keyPasses(QChar c);
+
+ signals:
+  void unloaded();
+
+ protected:
+  // Building blocks, each control named from the program's vocabulary.
+  QLineEdit* makeField(const QString& name, bool keyFilter = true);
+  QComboBox* makeUnitCombo(const QString& name, const units::UnitList& list, int start);
+  QLabel* makeLabel(const QString& name, const QString& caption, QWidget* buddy = nullptr);
+  QPushButton* makeButton(const QString& name, const QString& caption);
+  // One row of the standard grid: label, field and (optionally) combo.
+  void addRow(QLabel* label, QLineEdit* field, QComboBox* combo = nullptr);
+  QGridLayout* grid() const { return grid_; }
+  QVBoxLayout* buttonColumn() const { return buttons_; }
+  QLabel* labelText() const { return labelText_; }
+
+  // Field value: the text through ParseNumber times the factor of its combo.
+  double read(const QLineEdit* field, const QComboBox* combo = nullptr) const;
+  const units::UnitList& unitsOf(const QComboBox* combo) const;
+
+  // Places a value in its unit, selects the unit in the combo and writes the
+  // scaled value with the pattern. A value whose arithmetic failed, or that
+  // no unit takes, leaves field and combo as they are; returns false then.
+  bool writeResult(QLineEdit* field, QComboBox* combo, const units::Placement& rule, double value,
+                   const QString& pattern);
+  // Writes a plain number (no unit) with a pattern; skipped if not finite.
+  bool writeNumber(QLineEdit* field, double value, const QString& pattern);
+
+  // The empty-field rule of the simple calculators: at least `needed` fields
+  // above 0, the first exactly empty field in slot order is the unknown.
+  struct Slot {
+    QLineEdit* field;
+    QComboBox* combo;  // may be null: a plain number
+    units::Placement rule;
+    QString pattern;
+  };
+  using Solver = std::function<double(int unknown, const std::vector<double>& values)>;
+  void computeEmptyField(const std::vector<Slot>& fieldSlots, const Solver& solve, int needed = 2);
+
+  // Controls hidden while the form is printed (the buttons by default).
+  virtual QList<QWidget*> hiddenWhilePrinting() const;
+
+  // Key released in a field (after the key filter), focus leaving a control.
+  virtual void keyReleased(QLineEdit*, int /*key*/) {}
+  virtual void focusLeft(QWidget*) {}
+
+  // The MDI sub-window holding this form, if any.
+  QMdiSubWindow* subWindow() const;
+
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  QString tag_;
+  QLabel* labelText_;
+  QGridLayout* grid_;
+  QVBoxLayout* buttons_;
+  std::map<const QComboBox*, units::UnitList> units_;
+  std::vector<QLineEdit*> filtered_;
+  bool unloadedOnce_ = false;
+};
+
+// Messages of the empty-field rule, shared by every calculator.
+namespace frame {
+inline const char* const kTwoValues = "Bitte zwei Werte eingeben!";
+inline const char* const kThreeValues = "Bitte min. drei Werte eingeben!";
+inline const char* const kMustBeEmpty = "Das zu berechnende Feld muß leer sein!";
+}  // namespace frame

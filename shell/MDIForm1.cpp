@@ -1,0 +1,353 @@
+#include "shell/MDIForm1.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QLockFile>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenuBar>
+#include <QPainter>
+#include <QProcess>
+#include <QScreen>
+#include <QStandardPaths>
+#include <QDir>
+
+#include "shell/CalcForm.h"
+#include "shell/DialogService.h"
+#include "shell/FormRegistry.h"
+#include "shell/frmAbout.h"
+#include "shell/core/Module1.h"
+
+namespace {
+
+MDIForm1* g_main = nullptr;
+
+// Design size of the main window in twips (1/1440 inch).
+constexpr int kDesignWidthTwips = 4800;
+constexpr int kHeightMarginTwips = 400;
+
+// One line of the menu table: the item's name, caption, shortcut and the
+// form it shows (empty for sub-menus, separators and own handlers).
+struct MenuItem {
+  int depth;
+  const char* name;
+  const char* caption;  // "-" for a separator
+  const char* shortcut;
+  const char* form;
+};
+
+const MenuItem kMenu[] = {
+    {0, "mnuDat", "&Datei", "", ""},
+    {1, "mnuEnd", "&Beenden", "Ctrl+B", ""},
+    {0, "mnuBer", "&Berechnungen", "", ""},
+    {1, "mnuOhm", "&Ohmsches Gesetz", "Ctrl+O", "Ohm"},
+    {1, "mnuDrahtR", "&Leiter-Widerstand", "", "DrahtR"},
+    {1, "mnuLeistung", "L&eistung", "Ctrl+L", "Watt"},
+    {1, "mnuTrenn1", "-", "", ""},
+    {1, "mnuTeiler", "&Spannungsteiler", "", ""},
+    {2, "mnuUTeiler", "&Ohmscher", "", "UTeiler"},
+    {2, "mnuCTeiler", "&Kapazitiver", "", "CTeiler"},
+    {2, "mnuL2Teiler", "&Induktiver", "", "L2Teiler"},
+    {1, "mnuTrenn2", "-", "", ""},
+    {1, "mnuBlind", "&Blindwiderstand", "", ""},
+    {2, "mnuBlindXC", "&Kondensator", "", "XC"},
+    {2, "mnuBlindXL", "&Spule", "", "XL"},
+    {1, "mnuTrenn7", "-", "", ""},
+    {1, "mnuParR", "&Parallelschaltung von R", "", "ReihenS_RC"},
+    {1, "mnuReihC", "&Reihenschaltung von C", "", "ReihenS_RC"},
+    {1, "mnuParL", "Parallelschaltung von L", "", "ReihenS_RC"},
+    {1, "mnuTrenn3", "-", "", ""},
+    {1, "mnuRC", "R&C-Glied", "", "RC"},
+    {1, "mnuRL", "RL-&Glied", "", "RL"},
+    {1, "mnuRLC", "RLC-Gli&ed", "", "RLC"},
+    {1, "mnuTrenn4", "-", "", ""},
+    {1, "mnuSchwKr", "Schwing&kreis", "", ""},
+    {2, "mnuSchwingkreis", "F / L / C berechnen", "Ctrl+S", "Schwingk"},
+    {2, "mnuSchwingkreisGüte", "Güte / Bandbreite / Rp berechnen", "", "QLCR"},
+    {1, "mnuSp", "Sp&ule", "", ""},
+    {2, "mnuKernSpule", "&mit Kern", "", "SpuleKern"},
+    {2, "mnuLuftSpule", "&Luftspule", "", "SpuleLuft"},
+    {1, "mnuSuperhet", "Superhet Schwingkreise", "", "Superhet"},
+    {1, "mnuTrenn5", "-", "", ""},
+    {1, "mnudB", "&db Rechner", "Ctrl+D", "dB"},
+    {1, "mnuTrenn6", "-", "", ""},
+    {1, "mnuTransistor", "&Transistor-A-Verstärker", "Ctrl+T", "frmTrans1"},
+    {1, "mnuTrenn8", "-", "", ""},
+    {1, "LPBox", "Lautsprecher-Boxen", "", ""},
+    {2, "LPFrequenzw", "Frequenzweichen", "", ""},
+    {3, "LP_2Weg", "Zwei-Wegebox", "", ""},
+    {4, "LP_2Weg_6dB", "6 dB/Oktave", "", "LP_Box"},
+    {4, "LP_2Weg_12dB", "12 dB/Oktave", "", "LP_Box"},
+    {4, "LP_2Weg_18dB", "18 dB/Oktave", "", "LP_Box"},
+    {3, "LP_3Weg", "Drei-Wegebox", "", ""},
+    {4, "LP_3Weg_12dB", "12db/Oktave", "", "LP_Box"},
+    {1, "mnuTrenn9", "-", "", ""},
+    {1, "mnuTaschenrechner", "Taschenrechner", "Ctrl+R", ""},
+    {0, "mnuFrageZ", "&?", "", ""},
+    {1, "mnuInfo", "&Info", "F2", ""},
+    {1, "mnuHelp", "&Hilfe", "F1", ""},
+    {1, "mnuLiteratur", "&Literaturquellen", "F3", ""},
+};
+
+struct Crossover {
+  const char* item;
+  const char* caption;
+  const char* mode;
+};
+const Crossover kCrossovers[] = {
+    {"LP_2Weg_6dB", "Frequenzweiche Zwei-Wegebox 6dB/Oktave", "2W6"},
+    {"LP_2Weg_12dB", "Frequenzweiche Zwei-Wegebox 12dB/Oktave", "2W12"},
+    {"LP_2Weg_18dB", "Frequenzweiche Zwei-Wegebox 18dB/Oktave", "2W18"},
+    {"LP_3Weg_12dB", "Frequenzweiche Drei-Wegebox 12dB/Oktave", "3W12"},
+};
+
+bool isSubMenu(size_t i) {
+  const size_t n = sizeof kMenu / sizeof kMenu[0];
+  return i + 1 < n && kMenu[i + 1].depth > kMenu[i].depth;
+}
+
+}  // namespace
+
+MDIForm1* mainWindow() { return g_main; }
+
+MDIForm1::MDIForm1(QWidget* parent) : QMainWindow(parent) {
+  g_main = this;
+  setObjectName("MDIForm1");
+  setWindowTitle(Module1::AppTitle);
+  mdi_ = new QMdiArea(this);
+  mdi_->setObjectName("MDIArea");
+  mdi_->setBackground(QColor(0x80, 0x80, 0x80));
+  mdi_->viewport()->installEventFilter(this);
+  setCentralWidget(mdi_);
+  connect(mdi_, &QMdiArea::subWindowActivated, this, &MDIForm1::onSubWindowActivated);
+  buildMenu();
+}
+
+void MDIForm1::buildMenu() {
+  std::vector<QMenu*> stack;
+  const size_t n = sizeof kMenu / sizeof kMenu[0];
+  for (size_t i = 0; i < n; ++i) {
+    const MenuItem& m = kMenu[i];
+    stack.resize(size_t(m.depth));
+    QAction* action = nullptr;
+    if (QString(m.caption) == "-") {
+      action = stack.back()->addSeparator();
+    } else if (isSubMenu(i)) {
+      QMenu* menu = m.depth == 0 ? menuBar()->addMenu(QString::fromUtf8(m.caption))
+                                 : stack.back()->addMenu(QString::fromUtf8(m.caption));
+      menu->setObjectName(QString::fromUtf8(m.name));
+      action = menu->menuAction();
+      stack.push_back(menu);
+    } else {
+      action = stack.back()->addAction(QString::fromUtf8(m.caption));
+      if (*m.shortcut) action->setShortcut(QKeySequence(QString::fromUtf8(m.shortcut)));
+    }
+    const QString name = QString::fromUtf8(m.name);
+    action->setObjectName(name);
+    actions_[name] = action;
+    if (*m.form && !forms::has(QString::fromUtf8(m.form))) action->setEnabled(false);
+  }
+
+  // Calculators with one shared instance.
+  for (size_t i = 0; i < n; ++i) {
+    const QString form = QString::fromUtf8(kMenu[i].form);
+    if (form.isEmpty() || form == "LP_Box" || form == "ReihenS_RC") continue;
+    connect(actions_[kMenu[i].name], &QAction::triggered, this, [this, form] { showShared(form); });
+  }
+  for (const Crossover& c : kCrossovers) {
+    const QString caption = QString::fromUtf8(c.caption);
+    const QString mode = c.mode;
+    connect(actions_[c.item], &QAction::triggered, this, [this, caption, mode] { openCrossover(caption, mode); });
+  }
+  connect(actions_["mnuEnd"], &QAction::triggered, this, &QWidget::close);
+  connect(actions_["mnuTaschenrechner"], &QAction::triggered, this, &MDIForm1::startCalculator);
+  connect(actions_["mnuInfo"], &QAction::triggered, this, &MDIForm1::showInfo);
+  connect(actions_["mnuHelp"], &QAction::triggered, this, &MDIForm1::showHelp);
+  connect(actions_["mnuLiteratur"], &QAction::triggered, this, &MDIForm1::showLiterature);
+}
+
+QAction* MDIForm1::menuAction(const QString& name) const {
+  auto it = actions_.find(name);
+  return it == actions_.end() ? nullptr : it->second;
+}
+
+QMenuBar* MDIForm1::menus() const { return menuBar(); }
+
+bool MDIForm1::load() {
+  // One running Quarzel per user; tests give each process its own key.
+  QString key = qEnvironmentVariable("QUARZEL_INSTANCE");
+  if (key.isEmpty()) key = qEnvironmentVariable("USER", "user");
+  static QLockFile lock(QDir::temp().filePath("quarzel-" + key + ".lock"));
+  lock.setStaleLockTime(0);
+  if (!lock.tryLock(0)) {
+    dialogs::msgBox(
+        "Das Programm zweimal zu aktivieren ist nicht ratsam. Wenn Sie diese möglichkeit benötigen, so wenden Sie "
+        "sich bitte an den Autor dieser Software.",
+        dialogs::Icon::Exclamation, dialogs::Buttons::OK, Module1::AppTitle + " läuft bereits ");
+    return false;
+  }
+  placeWindow();
+  return true;
+}
+
+void MDIForm1::placeWindow() {
+  QScreen* screen = QGuiApplication::primaryScreen();
+  if (!screen) return;
+  const QRect s = screen->geometry();
+  const double pxPerTwipX = screen->logicalDotsPerInchX() / 1440.0;
+  const double pxPerTwipY = screen->logicalDotsPerInchY() / 1440.0;
+  const int height = s.height() - int(kHeightMarginTwips * pxPerTwipY);
+  const int width = s.width() - int(kDesignWidthTwips * pxPerTwipX / 2);
+  resize(width, height);
+  move(s.x() + (s.width() - width) / 2, s.y());
+}
+
+QWidget* MDIForm1::loadShared(const QString& name) {
+  auto it = shared_.find(name);
+  if (it != shared_.end() && it->second) return it->second;
+  QWidget* form = forms::create(name);
+  if (!form) return nullptr;
+  shared_[name] = form;
+  return form;
+}
+
+void MDIForm1::showChild(QWidget* form) {
+  QMdiSubWindow* sub = qobject_cast<QMdiSubWindow*>(form->parentWidget());
+  if (!sub) {
+    sub = mdi_->addSubWindow(form);
+    sub->setAttribute(Qt::WA_DeleteOnClose);
+    sub->setWindowIcon(windowIcon());
+    sub->adjustSize();
+  }
+  sub->show();
+  form->show();
+  mdi_->setActiveSubWindow(sub);
+}
+
+QWidget* MDIForm1::showShared(const QString& name) {
+  QWidget* form = loadShared(name);
+  if (form) showChild(form);
+  return form;
+}
+
+void MDIForm1::activate(QWidget* form) {
+  if (auto* sub = qobject_cast<QMdiSubWindow*>(form->parentWidget())) mdi_->setActiveSubWindow(sub);
+}
+
+QWidget* MDIForm1::activeForm() const {
+  QMdiSubWindow* sub = mdi_->activeSubWindow();
+  if (!sub) sub = mdi_->currentSubWindow();
+  return sub ? sub->widget() : nullptr;
+}
+
+QList<QMdiSubWindow*> MDIForm1::childWindows() const { return mdi_->subWindowList(QMdiArea::CreationOrder); }
+
+void MDIForm1::onSubWindowActivated(QMdiSubWindow* sub) {
+  // A form's activate handler runs when it becomes the active child, not
+  // when the whole program regains the focus (after a message box).
+  if (!sub || !sub->widget() || sub->widget() == lastActivated_) return;
+  lastActivated_ = sub->widget();
+  if (auto* form = qobject_cast<CalcForm*>(sub->widget())) form->activated();
+}
+
+void MDIForm1::openCrossover(const QString& caption, const QString& mode) {
+  auto* form = qobject_cast<CalcForm*>(loadShared("LP_Box"));
+  if (!form) return;
+  form->setCaption(caption);
+  form->setTag(mode);
+  QAction* box = actions_["LPBox"];
+  box->setEnabled(false);
+  connect(form, &CalcForm::unloaded, box, [box] { box->setEnabled(true); }, Qt::UniqueConnection);
+  showChild(form);
+}
+
+void MDIForm1::showInfo() {
+  auto it = shared_.find("frmAbout");
+  frmAbout* about = it != shared_.end() && it->second ? qobject_cast<frmAbout*>(it->second) : nullptr;
+  if (!about) {
+    about = frmAbout::info();
+    shared_["frmAbout"] = about;
+  }
+  showChild(about);
+}
+
+void MDIForm1::showHelp() {
+  frmAbout* w = frmAbout::help();
+  showChild(w);
+  w->parentWidget()->resize(mdi_->width() * 3 / 4, mdi_->height() * 3 / 4);
+}
+
+void MDIForm1::showLiterature() {
+  frmAbout* w = frmAbout::literature();
+  showChild(w);
+  w->parentWidget()->resize(mdi_->width() * 2 / 3, mdi_->height() / 2);
+}
+
+void MDIForm1::startCalculator() {
+  QStringList candidates;
+#ifdef Q_OS_WIN
+  candidates << "CALC.EXE";
+#else
+  candidates << "gnome-calculator" << "kcalc" << "galculator" << "qalculate-gtk" << "speedcrunch" << "xcalc";
+#endif
+  for (const QString& c : candidates) {
+    const QString path = QStandardPaths::findExecutable(c);
+    if (!path.isEmpty() && QProcess::startDetached(path, {})) return;
+  }
+  dialogs::msgBox("Der Taschenrechner konnte nicht gestartet werden." + Module1::NL +
+                      "Es wurde kein Rechnerprogramm gefunden.",
+                  dialogs::Icon::Exclamation);
+}
+
+void MDIForm1::setBackgroundPicture(const PictureBox* picture) {
+  backgroundDrawing_ = picture ? picture->drawing() : PictureBox::Drawing();
+  backgroundPixmap_ = picture ? picture->pixmap() : QPixmap();
+  updateBackground();
+}
+
+void MDIForm1::updateBackground() {
+  const QSize size = mdi_->viewport()->size();
+  if ((!backgroundDrawing_ && backgroundPixmap_.isNull()) || size.isEmpty()) {
+    mdi_->setBackground(QColor(0x80, 0x80, 0x80));
+    return;
+  }
+  PictureBox box("background");
+  if (backgroundDrawing_)
+    box.setDrawing(backgroundDrawing_);
+  else
+    box.setPixmap(backgroundPixmap_);
+  mdi_->setBackground(QBrush(box.render(size)));
+  mdi_->viewport()->update();
+}
+
+bool MDIForm1::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == mdi_->viewport() && event->type() == QEvent::Resize) updateBackground();
+  return QMainWindow::eventFilter(watched, event);
+}
+
+void MDIForm1::closeQuietly() {
+  quiet_ = true;
+  close();
+}
+
+void MDIForm1::closeEvent(QCloseEvent* event) {
+  if (!quiet_) {
+    const QString version = QString("%1.%2.%3")
+                                .arg(Module1::versionMajor())
+                                .arg(Module1::versionMinor())
+                                .arg(Module1::versionRevision());
+    const auto answer = dialogs::msgBox(
+        Module1::AppTitle + " V " + version + Module1::NL + "          Programm für Praktiker",
+        dialogs::Icon::Question, dialogs::Buttons::OKCancel, " Wirklich beenden ?");
+    if (answer != dialogs::Answer::OK) {
+      event->ignore();
+      return;
+    }
+  }
+  // Every other form is unloaded, the last opened first.
+  const QList<QMdiSubWindow*> subs = childWindows();
+  for (auto it = subs.rbegin(); it != subs.rend(); ++it) (*it)->close();
+  quit_ = true;
+  event->accept();
+}

@@ -1,0 +1,482 @@
+#include "shell/ScriptRunner.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QLocale>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <cstdio>
+#include <fstream>
+#include <iostream>
+#include <map>
+#include <memory>
+
+#include "shell/CalcForm.h"
+#include "shell/DialogService.h"
+#include "shell/FormRegistry.h"
+#include "shell/MDIForm1.h"
+#include "shell/PictureBox.h"
+#include "shell/PrintService.h"
+#include "shell/core/Json.h"
+#include "shell/core/Module1.h"
+
+namespace script {
+namespace {
+
+std::shared_ptr<dialogs::QueuedService>& queuedService() {
+  static std::shared_ptr<dialogs::QueuedService> s;
+  return s;
+}
+
+std::map<QString, Command>& extraCommands() {
+  static std::map<QString, Command> c;
+  return c;
+}
+
+// A failure of the script itself: unknown command or control, wrong kind.
+struct ScriptError {
+  QString what;
+};
+
+void settle() {
+  for (int i = 0; i < 3; ++i) {
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QApplication::processEvents();
+  }
+}
+
+QString shortcutText(const QAction* a) { return a->shortcut().toString(QKeySequence::PortableText); }
+
+json::Object menuNode(QAction* a) {
+  json::Object o;
+  o.add("name", a->objectName())
+      .add("caption", a->isSeparator() ? QString("-") : a->text())
+      .add("shortcut", shortcutText(a))
+      .add("enabled", a->isEnabled())
+      .add("separator", a->isSeparator());
+  std::vector<json::Object> children;
+  if (QMenu* m = a->menu()) {
+    for (QAction* c : m->actions()) children.push_back(menuNode(c));
+  }
+  o.raw("children", json::array(children));
+  return o;
+}
+
+class Runner {
+ public:
+  explicit Runner(MDIForm1& main) : main_(main) {}
+
+  // Returns false when the program has ended.
+  bool execute(const QString& line) {
+    QString rest = line;
+    QString word = nextWord(rest);
+    if (word == "locale") {
+      QLocale::setDefault(QLocale(nextWord(rest)));
+    } else if (word == "appdir") {
+      Module1::setAppDir(textArgument(rest));
+    } else if (word == "printer") {
+      const QString kind = nextWord(rest);
+      if (kind == "pdf")
+        printing::setMode(printing::Mode::Pdf, textArgument(rest));
+      else if (kind == "none")
+        printing::setMode(printing::Mode::None);
+      else
+        throw ScriptError{"unknown printer " + kind};
+    } else if (word == "menu") {
+      menu(nextWord(rest));
+    } else if (word == "form") {
+      formCommand(nextWord(rest));
+    } else if (word == "open") {
+      const QString name = nextWord(rest);
+      if (!forms::has(name)) throw ScriptError{"unknown form " + name};
+      main_.showShared(name);
+    } else if (word == "set" || word == "type") {
+      QWidget* c = control(nextWord(rest));
+      const QString text = textArgument(rest);
+      if (word == "set")
+        setText(c, text);
+      else
+        typeText(c, text);
+    } else if (word == "key" || word == "select") {
+      QWidget* c = control(nextWord(rest));
+      const QString arg = nextWord(rest);
+      if (word == "key")
+        namedKey(c, arg);
+      else
+        select(c, arg);
+    } else if (word == "click") {
+      const QString name = nextWord(rest);
+      click(name, control(name));
+    } else if (word == "dblclick") {
+      dblclick(control(nextWord(rest)));
+    } else if (word == "leave") {
+      leave(control(nextWord(rest)));
+    } else if (word == "answer") {
+      dialogs::Answer a;
+      const QString name = nextWord(rest);
+      if (!dialogs::answerFromName(name, a)) throw ScriptError{"unknown answer " + name};
+      queuedService()->queue(a);
+    } else if (word == "show") {
+      show();
+    } else if (word == "windows") {
+      windows();
+    } else if (word == "menustate") {
+      const QString name = nextWord(rest);
+      QAction* a = main_.menuAction(name);
+      if (!a) throw ScriptError{"unknown menu item " + name};
+      emitLine(json::Object()
+                   .add("menu", name)
+                   .add("caption", a->text())
+                   .add("enabled", a->isEnabled())
+                   .add("shortcut", shortcutText(a))
+                   .str());
+    } else if (word == "menutree") {
+      std::vector<json::Object> top;
+      for (QAction* a : main_.menus()->actions()) top.push_back(menuNode(a));
+      emitLine(json::Object().raw("menutree", json::array(top)).str());
+    } else if (word == "screenshot") {
+      const QString file = textArgument(rest);
+      if (!main_.grab().save(file, "PNG")) throw ScriptError{"cannot write " + file};
+    } else if (word == "close") {
+      main_.close();
+    } else if (extraCommands().count(word)) {
+      const QString err = extraCommands()[word](rest);
+      if (!err.isEmpty()) throw ScriptError{err};
+    } else {
+      throw ScriptError{"unknown command " + word};
+    }
+    settle();
+    return !main_.hasQuit();
+  }
+
+ private:
+  QWidget* target() const { return main_.activeForm(); }
+
+  QWidget* control(const QString& name) {
+    QWidget* form = target();
+    if (!form) throw ScriptError{"no active form"};
+    if (name.isEmpty()) throw ScriptError{"missing control name"};
+    for (QWidget* w : form->findChildren<QWidget*>(name)) return w;
+    throw ScriptError{"unknown control " + name};
+  }
+
+  void menu(const QString& name) {
+    QAction* a = main_.menuAction(name);
+    if (!a) throw ScriptError{"unknown menu item " + name};
+    // An item counts as disabled when it or one of its menus is.
+    bool enabled = a->isEnabled();
+    for (QObject* p = a->parent(); p && enabled; p = p->parent()) {
+      if (auto* m = qobject_cast<QMenu*>(p)) enabled = m->menuAction()->isEnabled();
+    }
+    if (!enabled) {
+      emitLine(json::Object().add("menu", name).add("enabled", false).str());
+      return;
+    }
+    a->trigger();
+  }
+
+  void formCommand(const QString& name) {
+    const QList<QMdiSubWindow*> subs = main_.childWindows();
+    for (auto it = subs.rbegin(); it != subs.rend(); ++it) {
+      QWidget* w = (*it)->widget();
+      if (w && w->objectName() == name) {
+        main_.activate(w);
+        return;
+      }
+    }
+    throw ScriptError{"no open form " + name};
+  }
+
+  void setText(QWidget* c, const QString& text) {
+    if (auto* e = qobject_cast<QLineEdit*>(c)) {
+      e->setText(text);
+    } else if (auto* cb = qobject_cast<QComboBox*>(c); cb && cb->isEditable()) {
+      cb->setEditText(text);
+    } else {
+      throw ScriptError{"control " + c->objectName() + " takes no text"};
+    }
+  }
+
+  static QWidget* keyTarget(QWidget* c) {
+    if (auto* cb = qobject_cast<QComboBox*>(c); cb && cb->isEditable()) return cb->lineEdit();
+    return c;
+  }
+
+  void sendKey(QWidget* c, int key, const QString& text) {
+    QWidget* t = keyTarget(c);
+    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text);
+    QApplication::sendEvent(t, &press);
+    // The release goes where the focus is now (a Tab has moved it on).
+    QWidget* now = QApplication::focusWidget();
+    QWidget* form = target();
+    QWidget* releaseTo = (now && form && form->isAncestorOf(now)) ? now : t;
+    QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier, text);
+    QApplication::sendEvent(releaseTo, &release);
+  }
+
+  void typeText(QWidget* c, const QString& text) {
+    QWidget* t = keyTarget(c);
+    if (!qobject_cast<QLineEdit*>(t)) throw ScriptError{"control " + c->objectName() + " takes no typing"};
+    t->setFocus(Qt::OtherFocusReason);
+    static_cast<QLineEdit*>(t)->end(false);
+    for (QChar ch : text) {
+      int key = ch.toUpper().unicode();
+      if (ch == ' ') key = Qt::Key_Space;
+      sendKey(c, key, QString(ch));
+    }
+  }
+
+  void namedKey(QWidget* c, const QString& name) {
+    if (name == "Backspace")
+      sendKey(c, Qt::Key_Backspace, QString(QChar(8)));
+    else if (name == "Delete")
+      sendKey(c, Qt::Key_Delete, QString());
+    else if (name == "Tab")
+      sendKey(c, Qt::Key_Tab, QString("\t"));
+    else
+      throw ScriptError{"unknown key " + name};
+  }
+
+  void select(QWidget* c, const QString& indexText) {
+    bool ok = false;
+    const int i = indexText.toInt(&ok);
+    if (auto* cb = qobject_cast<QComboBox*>(c)) {
+      if (!ok || i < 0 || i >= cb->count()) throw ScriptError{"index out of range: " + indexText};
+      const bool same = cb->currentIndex() == i;
+      cb->setCurrentIndex(i);
+      if (same) emit cb->currentIndexChanged(i);
+      emit cb->activated(i);
+    } else if (auto* lw = qobject_cast<QListWidget*>(c)) {
+      if (!ok || i < 0 || i >= lw->count()) throw ScriptError{"index out of range: " + indexText};
+      const bool same = lw->currentRow() == i;
+      lw->setCurrentRow(i);
+      if (same) emit lw->currentRowChanged(i);
+      emit lw->itemClicked(lw->item(i));
+    } else {
+      throw ScriptError{"control " + c->objectName() + " is no list"};
+    }
+  }
+
+  void click(const QString& name, QWidget* c) {
+    auto* b = qobject_cast<QAbstractButton*>(c);
+    if (!b) throw ScriptError{"control " + name + " is no button"};
+    if (!b->isVisibleTo(target())) {
+      emitLine(json::Object().add("click", name).add("visible", false).str());
+      return;
+    }
+    if (!b->isEnabled()) {
+      emitLine(json::Object().add("click", name).add("enabled", false).str());
+      return;
+    }
+    b->click();
+  }
+
+  void dblclick(QWidget* c) {
+    const QPointF at(c->width() / 2.0, c->height() / 2.0);
+    QMouseEvent e(QEvent::MouseButtonDblClick, at, c->mapToGlobal(at), Qt::LeftButton, Qt::LeftButton,
+                  Qt::NoModifier);
+    QApplication::sendEvent(c, &e);
+  }
+
+  void leave(QWidget* c) {
+    QWidget* t = keyTarget(c);
+    QFocusEvent e(QEvent::FocusOut, Qt::TabFocusReason);
+    QApplication::sendEvent(t, &e);
+  }
+
+  static json::Object describe(QWidget* form, QWidget* w) {
+    json::Object o;
+    if (auto* e = qobject_cast<QLineEdit*>(w)) {
+      o.add("kind", "text").add("text", e->text());
+    } else if (auto* t = qobject_cast<QPlainTextEdit*>(w)) {
+      o.add("kind", "text").add("text", t->toPlainText().replace("\n", Module1::NL));
+    } else if (auto* cb = qobject_cast<QComboBox*>(w)) {
+      QStringList items;
+      for (int i = 0; i < cb->count(); ++i) items << cb->itemText(i);
+      o.add("kind", "combo")
+          .add("index", cb->currentIndex())
+          .add("text", cb->currentText())
+          .addStrings("items", items)
+          .add("editable", cb->isEditable());
+    } else if (auto* lw = qobject_cast<QListWidget*>(w)) {
+      QStringList items;
+      for (int i = 0; i < lw->count(); ++i) items << lw->item(i)->text();
+      o.add("kind", "list")
+          .add("index", lw->currentRow())
+          .add("text", lw->currentItem() ? lw->currentItem()->text() : QString())
+          .addStrings("items", items)
+          .add("editable", false);
+    } else if (auto* rb = qobject_cast<QRadioButton*>(w)) {
+      o.add("kind", "option").add("caption", rb->text()).add("checked", rb->isChecked());
+    } else if (auto* cbx = qobject_cast<QCheckBox*>(w)) {
+      o.add("kind", "option").add("caption", cbx->text()).add("checked", cbx->isChecked());
+    } else if (auto* b = qobject_cast<QPushButton*>(w)) {
+      o.add("kind", "button").add("caption", b->text());
+    } else if (auto* l = qobject_cast<QLabel*>(w)) {
+      o.add("kind", "label").add("caption", l->text());
+    } else if (auto* g = qobject_cast<QGroupBox*>(w)) {
+      o.add("kind", "label").add("caption", g->title());
+    } else if (auto* p = qobject_cast<PictureBox*>(w)) {
+      o.add("kind", "picture").add("empty", p->isEmpty());
+    } else {
+      return o;
+    }
+    o.add("visible", w->isVisibleTo(form)).add("enabled", w->isEnabled());
+    if (!w->toolTip().isEmpty()) o.add("tip", w->toolTip());
+    return o;
+  }
+
+  void show() {
+    QWidget* form = target();
+    if (!form) throw ScriptError{"no active form"};
+    json::Object controls;
+    for (QWidget* w : form->findChildren<QWidget*>()) {
+      const QString n = w->objectName();
+      if (n.isEmpty() || n.startsWith("qt_")) continue;
+      json::Object d = describe(form, w);
+      if (d.str() == "{}") continue;
+      controls.add(n, d);
+    }
+    auto* calc = qobject_cast<CalcForm*>(form);
+    emitLine(json::Object()
+                 .add("form", form->objectName())
+                 .add("caption", form->windowTitle())
+                 .add("tag", calc ? calc->tag() : QString())
+                 .add("controls", controls)
+                 .str());
+  }
+
+  void windows() {
+    std::vector<json::Object> list;
+    QWidget* active = target();
+    for (QMdiSubWindow* s : main_.childWindows()) {
+      QWidget* w = s->widget();
+      if (!w) continue;
+      list.push_back(json::Object()
+                         .add("form", w->objectName())
+                         .add("caption", w->windowTitle())
+                         .add("active", w == active));
+    }
+    emitLine(json::Object().raw("windows", json::array(list)).str());
+  }
+
+  MDIForm1& main_;
+};
+
+}  // namespace
+
+void emitLine(const QString& line) {
+  const QByteArray utf8 = line.toUtf8();
+  std::fwrite(utf8.constData(), 1, size_t(utf8.size()), stdout);
+  std::fputc('\n', stdout);
+  std::fflush(stdout);
+}
+
+bool registerCommand(const QString& word, Command command) {
+  extraCommands()[word] = std::move(command);
+  return true;
+}
+
+QString nextWord(QString& rest) {
+  int i = 0;
+  while (i < rest.size() && rest[i].isSpace()) ++i;
+  QString word;
+  if (i < rest.size() && rest[i] == '"') {
+    ++i;
+    while (i < rest.size() && rest[i] != '"') {
+      if (rest[i] == '\\' && i + 1 < rest.size()) {
+        const QChar e = rest[++i];
+        word += e == 'n' ? QChar('\n') : e == 'r' ? QChar('\r') : e == 't' ? QChar('\t') : e;
+      } else {
+        word += rest[i];
+      }
+      ++i;
+    }
+    ++i;  // closing quote
+  } else {
+    while (i < rest.size() && !rest[i].isSpace()) word += rest[i++];
+  }
+  rest = rest.mid(i);
+  return word;
+}
+
+QString textArgument(const QString& rest) {
+  // The rest of the line after the one blank that separates it.
+  QString t = rest.startsWith(' ') ? rest.mid(1) : rest;
+  if (t.startsWith('"')) {
+    QString r = t;
+    return nextWord(r);
+  }
+  return t;
+}
+
+void installSeams() {
+  queuedService() = std::make_shared<dialogs::QueuedService>([](const dialogs::Message& m, dialogs::Answer a) {
+    emitLine(json::Object()
+                 .add("message", json::Object()
+                                     .add("title", m.title)
+                                     .add("text", m.text)
+                                     .add("icon", dialogs::iconName(m.icon))
+                                     .add("buttons", dialogs::buttonsName(m.buttons))
+                                     .add("answer", dialogs::answerName(a)))
+                 .str());
+  });
+  dialogs::install(queuedService());
+  printing::setObserver([](const QString& form, int pages) {
+    emitLine(json::Object().add("printed", json::Object().add("form", form).add("pages", pages)).str());
+  });
+}
+
+int run(MDIForm1& main, const QString& path) {
+  std::ifstream file;
+  std::istream* in = &std::cin;
+  if (path != "-") {
+    file.open(path.toLocal8Bit().constData());
+    if (!file) {
+      emitLine(json::Object().add("error", "cannot open script " + path).add("line", 0).str());
+      return 2;
+    }
+    in = &file;
+  }
+  Runner runner(main);
+  std::string raw;
+  int lineNo = 0;
+  settle();
+  while (std::getline(*in, raw)) {
+    ++lineNo;
+    QString line = QString::fromUtf8(raw.data(), qsizetype(raw.size()));
+    if (line.endsWith('\r')) line.chop(1);
+    const QString trimmed = line.trimmed();
+    if (trimmed.isEmpty() || trimmed.startsWith('#')) continue;
+    // Leading blanks before the command word are not part of any argument.
+    while (!line.isEmpty() && line[0].isSpace()) line.remove(0, 1);
+    try {
+      if (!runner.execute(line)) {
+        emitLine("{\"exit\":0}");
+        return 0;
+      }
+    } catch (const ScriptError& e) {
+      emitLine(json::Object().add("error", e.what).add("line", lineNo).str());
+      return 2;
+    }
+  }
+  main.closeQuietly();
+  settle();
+  emitLine("{\"exit\":0}");
+  return 0;
+}
+
+}  // namespace script
