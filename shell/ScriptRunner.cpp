@@ -130,7 +130,9 @@ class Runner {
       if (!dialogs::answerFromName(name, a)) throw ScriptError{"unknown answer " + name};
       queuedService()->queue(a);
     } else if (word == "show") {
-      show();
+      QStringList only;
+      for (QString w = nextWord(rest); !w.isEmpty(); w = nextWord(rest)) only << w;
+      show(only);
     } else if (word == "windows") {
       windows();
     } else if (word == "menustate") {
@@ -339,13 +341,16 @@ class Runner {
     return o;
   }
 
-  void show() {
+  // `show` lists every named control; `show Text1 ComboR` only those named.
+  void show(const QStringList& only) {
     QWidget* form = target();
     if (!form) throw ScriptError{"no active form"};
+    for (const QString& n : only) control(n);
     json::Object controls;
     for (QWidget* w : form->findChildren<QWidget*>()) {
       const QString n = w->objectName();
       if (n.isEmpty() || n.startsWith("qt_")) continue;
+      if (!only.isEmpty() && !only.contains(n)) continue;
       json::Object d = describe(form, w);
       if (d.str() == "{}") continue;
       controls.add(n, d);
