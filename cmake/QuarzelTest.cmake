@@ -6,7 +6,7 @@ include(GoogleTest)
 function(quarzel_add_test)
   cmake_parse_arguments(T "" "NAME;KIND" "SOURCES" ${ARGN})
   add_executable(${T_NAME} ${T_SOURCES})
-  target_include_directories(${T_NAME} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+  target_include_directories(${T_NAME} PRIVATE ${CMAKE_SOURCE_DIR}/tests ${CMAKE_SOURCE_DIR}/tests/gui)
   if(T_KIND STREQUAL "unit")
     target_link_libraries(${T_NAME} PRIVATE quarzel_core GTest::gtest GTest::gtest_main)
     gtest_discover_tests(${T_NAME} DISCOVERY_MODE PRE_TEST

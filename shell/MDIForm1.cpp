@@ -124,6 +124,13 @@ MDIForm1::MDIForm1(QWidget* parent) : QMainWindow(parent) {
   buildMenu();
 }
 
+MDIForm1::~MDIForm1() {
+  // The child windows go after this window's own members; no activation
+  // handler may run for them any more.
+  disconnect(mdi_, nullptr, this, nullptr);
+  g_main = nullptr;
+}
+
 void MDIForm1::buildMenu() {
   std::vector<QMenu*> stack;
   const size_t n = sizeof kMenu / sizeof kMenu[0];

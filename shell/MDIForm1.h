@@ -17,6 +17,7 @@ class MDIForm1 : public QMainWindow {
   Q_OBJECT
  public:
   explicit MDIForm1(QWidget* parent = nullptr);
+  ~MDIForm1() override;
 
   // Load: refuses a second running instance (message, then false: the
   // program ends) and otherwise places the window.
