@@ -265,7 +265,7 @@ void MDIForm1::openCrossover(const QString& caption, const QString& mode) {
   form->setTag(mode);
   QAction* box = actions_["LPBox"];
   box->setEnabled(false);
-  connect(form, &CalcForm::unloaded, box, [box] { box->setEnabled(true); }, Qt::UniqueConnection);
+  connect(form, &CalcForm::unloaded, box, [box] { box->setEnabled(true); });
   showChild(form);
 }
 
