@@ -40,8 +40,8 @@ class Suche : public ::testing::Test {
     f.write(inhalt);
   }
 
-  // A normal-transistor request; the answers to file errors are counted.
-  Suchauftrag auftrag(float ic, float pmin, qint16 smd = 0, float ube = 0.72f) {
+  // A normal-transistor request.
+  static Suchauftrag auftrag(float ic, float pmin, qint16 smd = 0, float ube = 0.72f) {
     Suchauftrag a;
     a.ic = ic;
     a.pmin = pmin;
@@ -49,23 +49,19 @@ class Suche : public ::testing::Test {
     a.ube = ube;
     return a;
   }
+  // File errors are recorded and answered by `antwort` (Cancel without one).
   void suche(Suchauftrag& a) {
     TransistorSuche(a, t, [this](const DateiFehler& f) {
       fehler.push_back(f);
-      return antworten.empty() ? FehlerAntwort::Abbrechen : antwortNehmen(f);
+      return antwort ? antwort(f) : FehlerAntwort::Abbrechen;
     }, pfad);
-  }
-  FehlerAntwort antwortNehmen(const DateiFehler& f) {
-    auto fn = antworten.front();
-    antworten.erase(antworten.begin());
-    return fn(f);
   }
 
   QTemporaryDir dir;
   QString pfad;
   CurrentTransistor t;
   std::vector<DateiFehler> fehler;
-  std::vector<std::function<FehlerAntwort(const DateiFehler&)>> antworten;
+  FehlerFrage antwort;
 };
 
 TEST_F(Suche, HardLimitsAreInclusiveAndEachOneRejects) {
@@ -216,11 +212,10 @@ TEST_F(Suche, FieldsAreReadByFieldsNotLines) {
 
 TEST_F(Suche, MissingFileRetryReopensCancelGivesGenericType) {
   // First answer: put the file in place and retry; the search then finds it.
-  antworten.push_back([this](const DateiFehler&) {
-    QFile f(pfad);
-    if (f.open(QIODevice::WriteOnly)) f.write(QByteArray(Kopf) + "\"BC547\",45,0.1,0.5,1,\"npn\"\r\n" + Ende);
+  antwort = [this](const DateiFehler&) {
+    schreibe(QByteArray(Kopf) + "\"BC547\",45,0.1,0.5,1,\"npn\"\r\n" + Ende);
     return FehlerAntwort::Wiederholen;
-  });
+  };
   Suchauftrag a = auftrag(0.01f, 0.3f);
   suche(a);
   ASSERT_EQ(fehler.size(), 1u);
@@ -232,7 +227,9 @@ TEST_F(Suche, MissingFileRetryReopensCancelGivesGenericType) {
   // Retry without a change asks again; Cancel then gives the generic type.
   QFile::remove(pfad);
   fehler.clear();
-  antworten.push_back([](const DateiFehler&) { return FehlerAntwort::Wiederholen; });
+  antwort = [this](const DateiFehler&) {
+    return fehler.size() < 2 ? FehlerAntwort::Wiederholen : FehlerAntwort::Abbrechen;
+  };
   a = auftrag(0.01f, 0.3f, 0, 1.38f);
   suche(a);
   ASSERT_EQ(fehler.size(), 2u);
@@ -302,11 +299,11 @@ TEST_F(Suche, DamagedFilesGiveErrorsAndNeverHang) {
 
 TEST_F(Suche, ReadErrorRetryRereadsTheRecord) {
   schreibe(QByteArray(Kopf) + "\"A\",45,0.1,0.5,x,\"npn\"\r\n" + Ende);
-  antworten.push_back([this](const DateiFehler& f) {
+  antwort = [this](const DateiFehler& f) {
     EXPECT_EQ(f.nummer, 13);
     schreibe(QByteArray(Kopf) + "\"A\",45,0.1,0.5,1,\"npn\"\r\n" + Ende);
     return FehlerAntwort::Wiederholen;
-  });
+  };
   Suchauftrag a = auftrag(0.01f, 0.3f);
   t.typeName = "x";
   suche(a);
