@@ -3,6 +3,7 @@
 // frequency, with the unit rules of the three result fields.
 #include <cmath>
 
+#include "calculators/core/CheckedMath.h"
 #include "shell/core/Module1.h"
 #include "shell/core/UnitPrefix.h"
 
@@ -14,16 +15,16 @@ inline constexpr double kTwoPi = 6.28318530717958;
 // The product L · C first, then its root, then 2π, then the reciprocal.
 inline double frequency(double l, double c) {
   const double root = std::sqrt(l * c);
-  return 1.0 / (kTwoPi * root);
+  return 1.0 / calcmath::divisor(kTwoPi * root);
 }
 // 2π · f first, squared, times the other component, reciprocal.
 inline double inductance(double f, double c) {
   const double w = kTwoPi * f;
-  return 1.0 / (w * w * c);
+  return 1.0 / calcmath::divisor(w * w * c);
 }
 inline double capacitance(double f, double l) {
   const double w = kTwoPi * f;
-  return 1.0 / (w * w * l);
+  return 1.0 / calcmath::divisor(w * w * l);
 }
 
 // ComboF: MHz KHz Hz. Exactly 1 MHz is shown as 1000 KHz, exactly 1 kHz as
