@@ -34,7 +34,6 @@ struct Row {
 
 struct Network {
   QString file;
-  QString title;
   std::vector<Row> rows;  // top to bottom
 };
 
@@ -42,11 +41,11 @@ const QColor kWire(20, 20, 20);
 const QColor kName(0, 40, 150);
 const QColor kSpeaker(150, 20, 20);
 
-constexpr double kWidth = 920;
+constexpr double kWidth = 860;
 constexpr double kBusX = 120;      // signal bus fed from the input
-constexpr double kSpeakerX = 690;  // all speakers stand in one column
-constexpr double kReturnX = 850;   // return bus
-constexpr double kPitch = 118;     // distance of the parts in a row
+constexpr double kSpeakerX = 640;  // all speakers stand in one column
+constexpr double kReturnX = 810;   // return bus
+constexpr double kPitch = 116;     // distance of the parts in a row
 constexpr double kHalf = 30;       // half length of a part's body in the line
 
 class Drawer {
@@ -95,7 +94,7 @@ class Drawer {
     line(x + 6, y, x + kHalf, y);
     plate(x - 6, y - 19, x - 6, y + 19);
     plate(x + 6, y - 19, x + 6, y + 19);
-    text(name, x, y - 26, 20, true, kName, Qt::AlignHCenter | Qt::AlignBottom);
+    text(name, x, y - 25, 26, true, kName, Qt::AlignHCenter | Qt::AlignBottom);
   }
 
   // Coil lying in a horizontal line: four turns arched upwards.
@@ -105,7 +104,7 @@ class Drawer {
     for (int i = 0; i < 4; ++i) path.arcTo(QRectF(x - kHalf + i * d, y - d / 2 - 1, d, d + 2), 180, -180);
     p_.setPen(wirePen());
     p_.drawPath(path);
-    text(name, x, y - 18, 20, true, kName, Qt::AlignHCenter | Qt::AlignBottom);
+    text(name, x, y - 17, 26, true, kName, Qt::AlignHCenter | Qt::AlignBottom);
   }
 
   // Capacitor standing between the signal line (yTop) and the return line.
@@ -116,7 +115,7 @@ class Drawer {
     plate(x - 19, m - 6, x + 19, m - 6);
     plate(x - 19, m + 6, x + 19, m + 6);
     dot(x, yTop);
-    text(name, x + 26, m, 20, true, kName, Qt::AlignLeft);
+    text(name, x + 26, m, 26, true, kName, Qt::AlignLeft);
   }
 
   // Coil standing between the signal line and the return line, turns to the right.
@@ -130,7 +129,7 @@ class Drawer {
     p_.setPen(wirePen());
     p_.drawPath(path);
     dot(x, yTop);
-    text(name, x + 18, m, 20, true, kName, Qt::AlignLeft);
+    text(name, x + 17, m, 26, true, kName, Qt::AlignLeft);
   }
 
   // Loudspeaker between signal and return line: magnet block and cone.
@@ -145,12 +144,12 @@ class Drawer {
     p_.setBrush(Qt::white);
     p_.drawPolygon(cone, 4);
     p_.setBrush(Qt::NoBrush);
-    text(name, x + 48, m - 12, 24, true, kSpeaker, Qt::AlignLeft);
-    text(role, x + 48, m + 14, 15, false, kSpeaker, Qt::AlignLeft);
+    text(name, x + 46, m - 13, 30, true, kSpeaker, Qt::AlignLeft);
+    text(role, x + 46, m + 17, 18, false, kSpeaker, Qt::AlignLeft);
   }
 
  private:
-  static QPen wirePen() { return QPen(kWire, 2.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin); }
+  static QPen wirePen() { return QPen(kWire, 3, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin); }
   void plate(double x1, double y1, double x2, double y2) {
     p_.setPen(QPen(kWire, 5, Qt::SolidLine, Qt::FlatCap));
     p_.drawLine(QPointF(x1, y1), QPointF(x2, y2));
@@ -160,9 +159,9 @@ class Drawer {
 
 QImage draw(const Network& net) {
   const int rows = int(net.rows.size());
-  const double rowHeight = rows == 3 ? 170 : 190;
-  const double gapTop = 95;  // title and the first row's part names
-  const double signalToReturn = rows == 3 ? 108 : 122;
+  const double rowHeight = rows == 3 ? 160 : 185;
+  const double gapTop = 62;  // room for the first row's part names
+  const double signalToReturn = rows == 3 ? 100 : 118;
   const double height = gapTop + (rows - 1) * rowHeight + signalToReturn + 50;
 
   QImage img(int(kWidth), int(height), QImage::Format_RGB32);
@@ -172,13 +171,11 @@ QImage draw(const Network& net) {
   p.setRenderHint(QPainter::TextAntialiasing);
   Drawer d(p);
 
-  d.text(net.title, 24, 30, 22, true, QColor(60, 60, 60), Qt::AlignLeft);
-
   size_t most = 0;
   for (const Row& r : net.rows) most = std::max(most, r.elements.size());
   // The parts of all rows start in one column, the longest row centred
   // between the signal bus and the speakers.
-  const double first = (kBusX + kSpeakerX - 40) / 2 - (double(most) - 1) * kPitch / 2;
+  const double first = (kBusX + kSpeakerX - 60) / 2 - (double(most) - 1) * kPitch / 2;
 
   std::vector<double> signalY, returnY;
   for (int i = 0; i < rows; ++i) {
@@ -196,7 +193,7 @@ QImage draw(const Network& net) {
   d.terminal(inX, returnY.back());
   d.text(QStringLiteral("+"), inX, signalY.front() - 12, 20, true, kWire, Qt::AlignHCenter | Qt::AlignBottom);
   d.text(QString(QChar(0x2212)), inX, returnY.back() + 12, 20, true, kWire, Qt::AlignHCenter | Qt::AlignTop);
-  d.text(QStringLiteral("Eingang"), inX - 24, (signalY.front() + returnY.back()) / 2, 16, false, kWire,
+  d.text(QStringLiteral("Eingang"), inX - 30, (signalY.front() + returnY.back()) / 2, 18, false, kWire,
          Qt::AlignLeft);
 
   for (int i = 0; i < rows; ++i) {
@@ -267,10 +264,10 @@ std::vector<Network> networks() {
   const Row mt3{"MT", "Mittelton", {{C, S, "C1M"}, {L, P, "L1M"}, {L, S, "L2M"}, {C, P, "C2M"}}};
   const Row tt3{"TT", "Tiefton", {{L, S, "L1T"}, {C, P, "C1T"}}};
   return {
-      {"LP_2Weg_6dB.jpg", "Zwei-Wegebox 6 dB/Oktave", {ht6, tt6}},
-      {"LP_2Weg_12dB.jpg", "Zwei-Wegebox 12 dB/Oktave", {ht12, tt12}},
-      {"LP_2Weg_18dB.jpg", "Zwei-Wegebox 18 dB/Oktave", {ht18, tt18}},
-      {"LP_3Weg_12dB.jpg", "Drei-Wegebox 12 dB/Oktave", {ht3, mt3, tt3}},
+      {"LP_2Weg_6dB.jpg", {ht6, tt6}},
+      {"LP_2Weg_12dB.jpg", {ht12, tt12}},
+      {"LP_2Weg_18dB.jpg", {ht18, tt18}},
+      {"LP_3Weg_12dB.jpg", {ht3, mt3, tt3}},
   };
 }
 
