@@ -220,7 +220,8 @@ void frmKuehlg2::oeffnen() {
   if (d.tj == 0.0f) d.tj = 150.0f;
   text2_->setText(numfmt::format(d.tj, "##0"));
   text3_->setText(numfmt::format(40, "##0"));
-  innererWiderstandAusTj();
+  double rthI = 0;
+  if (arith::assign(rthI, (double(d.tj) - 25.0) / double(t.ptot))) text4_->setText(numfmt::format(rthI, "###0.00"));
   text5_->setText(QStringLiteral("0,5"));
   text7_->setText(numfmt::format(d.sheetThickness, "##0.0"));
   text6_->setText(QString());
