@@ -76,13 +76,6 @@ TEST(CrossoverFormulas, OverflowIsNotAQuietZero) {
   EXPECT_TRUE(std::isnan(L18b(1e308, 10)));
 }
 
-TEST(CrossoverModes, Tags) {
-  EXPECT_EQ(modeFromTag("2W6"), Mode::TwoWay6);
-  EXPECT_EQ(modeFromTag("3W12"), Mode::ThreeWay12);
-  EXPECT_FALSE(modeFromTag("2w6").has_value());
-  EXPECT_FALSE(modeFromTag("").has_value());
-}
-
 // Components from the default frequency of each mode, impedances 4 ohm.
 TEST(CrossoverFromFrequency, AllFourNetworks) {
   using M = std::map<int, QString>;
