@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QPixmap>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -234,6 +235,11 @@ void LP_Box::enlargePicture() {
   if (image1_->pixmap().isNull()) return;
   MDIForm1* main = mainWindow();
   PictureBox* big = nullptr;
+  // One picture window, also when an earlier crossover form opened it.
+  if (!enlarged_ && main) {
+    for (QMdiSubWindow* sub : main->childWindows())
+      if (sub->widget() && sub->widget()->objectName() == QLatin1String("LP_Bild")) enlarged_ = sub->widget();
+  }
   if (enlarged_) {
     big = enlarged_->findChild<PictureBox*>("Image1");
   } else {
