@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <algorithm>
+#include <cmath>
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QHBoxLayout>
@@ -196,6 +197,31 @@ void CalcForm::closeForm() {
     sub->close();
   else
     close();
+}
+
+void CalcForm::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  if (tabOrderSet_) return;
+  tabOrderSet_ = true;
+  // Tab runs through the fields in reading order, row by row, and then
+  // through the buttons.
+  QList<QWidget*> inputs, buttons;
+  for (QWidget* w : findChildren<QWidget*>()) {
+    if (!(w->focusPolicy() & Qt::TabFocus) || !w->isVisibleTo(this) || !w->isEnabled()) continue;
+    if (qobject_cast<QComboBox*>(w->parentWidget())) continue;  // an editable combo's own line edit
+    (qobject_cast<QPushButton*>(w) ? buttons : inputs) << w;
+  }
+  auto position = [this](QWidget* w) { return w->mapTo(this, QPoint(0, 0)); };
+  auto readingOrder = [&](QWidget* a, QWidget* b) {
+    const QPoint pa = position(a), pb = position(b);
+    if (std::abs(pa.y() - pb.y()) > 8) return pa.y() < pb.y();
+    return pa.x() < pb.x();
+  };
+  std::stable_sort(inputs.begin(), inputs.end(), readingOrder);
+  std::stable_sort(buttons.begin(), buttons.end(), readingOrder);
+  const QList<QWidget*> chain = inputs + buttons;
+  for (qsizetype i = 1; i < chain.size(); ++i) QWidget::setTabOrder(chain[i - 1], chain[i]);
+  if (!inputs.isEmpty() && !focusWidget()) inputs.first()->setFocus(Qt::OtherFocusReason);
 }
 
 void CalcForm::closeEvent(QCloseEvent* event) {

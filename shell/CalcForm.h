@@ -91,6 +91,7 @@ class CalcForm : public QWidget {
 
   bool eventFilter(QObject* watched, QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
+  void showEvent(QShowEvent* event) override;
 
  private:
   QString tag_;
@@ -100,6 +101,7 @@ class CalcForm : public QWidget {
   std::map<const QComboBox*, units::UnitList> units_;
   std::vector<QLineEdit*> filtered_;
   bool unloadedOnce_ = false;
+  bool tabOrderSet_ = false;
 };
 
 // Messages of the empty-field rule, shared by every calculator.
