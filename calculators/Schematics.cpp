@@ -133,10 +133,10 @@ void Sketch::part(Element element, QPointF a, QPointF b, const QString& name, Si
   const double gap = halfWidth + 8;
   if (vertical) {
     const double x = side == Side::Right ? mid.x() + gap : mid.x() - gap;
-    label(QPointF(x, mid.y()), name, (side == Side::Right ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
+    symbolText(QPointF(x, mid.y()), name, (side == Side::Right ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
   } else {
     const double y = side == Side::Left ? mid.y() - gap : mid.y() + gap;
-    label(QPointF(mid.x(), y), name, Qt::AlignHCenter | (side == Side::Left ? Qt::AlignBottom : Qt::AlignTop));
+    symbolText(QPointF(mid.x(), y), name, Qt::AlignHCenter | (side == Side::Left ? Qt::AlignBottom : Qt::AlignTop));
   }
 }
 
@@ -178,17 +178,30 @@ void Sketch::voltage(QPointF from, QPointF to, const QString& name, Side side) {
   p_.setPen(kArrow);
   if (vertical) {
     const double x = side == Side::Right ? mid.x() + gap : mid.x() - gap;
-    label(QPointF(x, mid.y()), name, (side == Side::Right ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
+    symbolText(QPointF(x, mid.y()), name, (side == Side::Right ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
   } else {
     const double y = side == Side::Left ? mid.y() - gap : mid.y() + gap;
-    label(QPointF(mid.x(), y), name, Qt::AlignHCenter | (side == Side::Left ? Qt::AlignBottom : Qt::AlignTop));
+    symbolText(QPointF(mid.x(), y), name, Qt::AlignHCenter | (side == Side::Left ? Qt::AlignBottom : Qt::AlignTop));
   }
   p_.restore();
 }
 
 void Sketch::label(QPointF anchor, const QString& text, int alignment) {
-  // A letter followed by more characters is written as a symbol with an
-  // index: "R1" as R with a lowered 1, "Ue" as U with a lowered e.
+  const QFontMetricsF fm(labelFont());
+  const QSizeF size(fm.horizontalAdvance(text), fm.ascent() + fm.descent());
+  double x = anchor.x();
+  if (alignment & Qt::AlignRight) x -= size.width();
+  else if (alignment & Qt::AlignHCenter) x -= size.width() / 2;
+  double top = anchor.y();
+  if (alignment & Qt::AlignBottom) top -= size.height();
+  else if (alignment & Qt::AlignVCenter) top -= size.height() / 2;
+  p_.save();
+  p_.setFont(labelFont());
+  p_.drawText(QPointF(x, top + fm.ascent()), text);
+  p_.restore();
+}
+
+void Sketch::symbolText(QPointF anchor, const QString& text, int alignment) {
   const QString symbol = text.left(1);
   const QString index = text.size() > 1 && text.at(0).isLetter() ? text.mid(1) : QString();
   const QString main = index.isEmpty() ? text : symbol;

@@ -47,9 +47,14 @@ class Sketch {
   // A voltage arrow from `from` to `to` (the arrow head at `to`) with its
   // name beside its middle.
   void voltage(QPointF from, QPointF to, const QString& name, Side side);
-  // Text with its anchor point at the given alignment (e.g. Qt::AlignLeft |
-  // Qt::AlignVCenter: the anchor is the middle of the text's left edge).
+  // Plain text with its anchor point at the given alignment (e.g.
+  // Qt::AlignLeft | Qt::AlignVCenter: the anchor is the middle of the text's
+  // left edge).
   void label(QPointF anchor, const QString& text, int alignment);
+  // A symbol name, placed like a label: a letter followed by more characters
+  // is written with an index, "R1" as R with a lowered 1, "Ue" as U with a
+  // lowered e.
+  void symbolText(QPointF anchor, const QString& text, int alignment);
 
  private:
   QPainter& p_;
