@@ -51,7 +51,7 @@ DividerForm::DividerForm(const QString& name, const QString& caption, const Part
   auto* row = new QHBoxLayout(circuit);
   image1_ = new PictureBox("Image1", this);
   image1_->setMinimumSize(250, 180);
-  image1_->setToolTip(QStringLiteral("Doppelklick: Schaltbild vergrößern"));
+  image1_->setToolTip(QString::fromUtf8("Doppelklick: Schaltbild vergrößert im Hintergrund zeigen"));
   row->addWidget(image1_, 1);
   auto* c = new QGridLayout;
   row->addLayout(c);
