@@ -62,13 +62,6 @@ DrahtR::DrahtR() : CalcForm("DrahtR", QString::fromUtf8(" Leiter - Widerstand be
   grid()->addWidget(makeLabel("Label10", QString::fromUtf8("Ohm·mm²/m")), r + 2, 1, 1, 2);
   grid()->setRowStretch(r + 3, 1);
 
-  setTabOrder(text1_, text7_);
-  setTabOrder(text7_, text2_);
-  setTabOrder(text2_, comboLg_);
-  setTabOrder(comboLg_, text3_);
-  setTabOrder(text3_, comboR_);
-  setTabOrder(comboR_, comboMat_);
-
   for (QLineEdit* e : {text1_, text7_}) {
     connect(e, &QLineEdit::textEdited, this, [this, e] { edited_.insert(e); });
   }
