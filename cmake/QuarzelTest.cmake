@@ -3,6 +3,10 @@
 #   quarzel_add_script_test(<script.qzs>)   expects <script>.out beside it
 include(GoogleTest)
 
+# Instance keys differ per build tree, so two trees can run their suites at once.
+string(MD5 QUARZEL_TREE_ID ${CMAKE_BINARY_DIR})
+string(SUBSTRING ${QUARZEL_TREE_ID} 0 8 QUARZEL_TREE_ID)
+
 function(quarzel_add_test)
   cmake_parse_arguments(T "" "NAME;KIND" "SOURCES" ${ARGN})
   add_executable(${T_NAME} ${T_SOURCES})
@@ -16,7 +20,7 @@ function(quarzel_add_test)
     add_dependencies(${T_NAME} quarzel quarzel_data)
     add_test(NAME ${T_NAME} COMMAND ${T_NAME})
     set_tests_properties(${T_NAME} PROPERTIES
-      ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QUARZEL_INSTANCE=test-${T_NAME};QUARZEL_APPDIR=${CMAKE_BINARY_DIR};QUARZEL_EXE=$<TARGET_FILE:quarzel>"
+      ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QUARZEL_INSTANCE=test-${T_NAME}-${QUARZEL_TREE_ID};QUARZEL_APPDIR=${CMAKE_BINARY_DIR};QUARZEL_EXE=$<TARGET_FILE:quarzel>"
       TIMEOUT 120)
   endif()
 endfunction()
@@ -29,7 +33,7 @@ function(quarzel_add_script_test script)
   add_test(NAME ${name}
     COMMAND ${CMAKE_COMMAND}
       -DEXE=$<TARGET_FILE:quarzel> -DSCRIPT=${script} -DEXPECTED=${dir}/${base}.out
-      -DWORK=${work} -DINSTANCE=script-${base}
+      -DWORK=${work} -DINSTANCE=script-${base}-${QUARZEL_TREE_ID}
       -P ${CMAKE_SOURCE_DIR}/cmake/RunScriptTest.cmake)
   set_tests_properties(${name} PROPERTIES TIMEOUT 120)
 endfunction()
