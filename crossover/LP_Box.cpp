@@ -68,7 +68,7 @@ void keepInside(QWidget* sub, const QSize& room) {
 }  // namespace
 
 LP_Box::LP_Box() : CalcForm("LP_Box", "Lautsprecher - Box") {
-  // Specifications: impedances and crossover frequencies, plain numbers.
+  // Given values ("Vorgaben"): impedances and crossover frequencies, plain numbers.
   for (int n : {1, 6, 8, 9, 7}) {
     text_[size_t(n)] = makeField(QStringLiteral("Text%1").arg(n));
     field(n)->setMinimumWidth(0);

@@ -159,7 +159,7 @@ class Run {
   const QLocale& locale_;
   Outcome& out_;
   const ModeLayout& lay_;
-  int S = 0;  // specifications counted
+  int S = 0;  // given values ("Vorgaben") counted
   int K = 0;  // components given
   double rTT = 0, rMT = 0, rHT = 0;
   double f = 0, fu = 0;  // f is the only (two-way) or the upper (three-way) frequency
@@ -411,7 +411,7 @@ void Run::go() {
     }
   }
 
-  // 7. With every specification at hand the whole network is recomputed.
+  // 7. With every given value at hand the whole network is recomputed.
   if (S == complete) computeAll();
 
   // 8.
