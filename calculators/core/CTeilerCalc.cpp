@@ -44,6 +44,40 @@ units::Placement frequencyPlacement() {
   return {{{Cmp::Greater, Module1::TenPow(6), 0}, {Cmp::Greater, Module1::TenPow(3), 1}}, 2};
 }
 
+void ratioSteps(Values& v, const Empty& empty, double (*partsRatio)(const Values&), const QString& partsWord,
+                Run& run) {
+  const QString& nl = Module1::NL;
+  const auto square = [](double x) { return x * x; };
+  if (empty[Ratio]) {
+    if (v.r1 > 0 && v.r2 > 0) {
+      arith::assign(v.u, std::sqrt(v.r2 / v.r1));
+    } else if (v.x1 > 0 && v.x2 > 0) {
+      arith::assign(v.u, std::sqrt(square(partsRatio(v))));
+    } else if (v.a > 0) {
+      arith::assign(v.u, std::sqrt(v.a));
+    } else {
+      run.message("Bitte min. das Anpassungverhältnis oder " + nl + "beide Widerstände oder beide " + partsWord +
+                  " eingeben!");
+      v.u = 0;
+    }
+    if (v.u != 0) run.show(Ratio, v.u);
+  }
+  if (empty[Matching]) {
+    if (v.r1 > 0 && v.r2 > 0) {
+      arith::assign(v.a, v.r2 / v.r1);
+    } else if (v.x1 > 0 && v.x2 > 0) {
+      arith::assign(v.a, square(partsRatio(v)));
+    } else if (v.u > 0) {
+      arith::assign(v.a, square(v.u));
+    } else {
+      run.message("Bitte min. das Spannungsverhältnis oder " + nl + "beide Widerstände oder beide " + partsWord +
+                  " eingeben!");
+      v.a = 0;
+    }
+    if (v.a != 0) run.show(Matching, v.a);
+  }
+}
+
 QString patternOf(Field field) {
   switch (field) {
     case Ratio:
@@ -66,45 +100,13 @@ double designConstant() { return 5.05 * Module1::TenPow(-1); }
 
 divider::Run compute(divider::Values v, divider::Empty empty) {
   divider::Run run;
-  auto message = [&](const QString& text) { run.steps.push_back({Step::Message, Field::Ratio, 0, text}); };
-  auto show = [&](Field field, double value) {
-    run.steps.push_back({Step::Show, field, value, {}});
-    ++run.computed;
-  };
+  auto message = [&](const QString& text) { run.message(text); };
+  auto show = [&](Field field, double value) { run.show(field, value); };
   const QString& nl = Module1::NL;
   const auto square = [](double x) { return x * x; };
 
-  // Voltage ratio: from the resistances, the capacitors or the matching ratio.
-  if (empty[Field::Ratio]) {
-    if (v.r1 > 0 && v.r2 > 0) {
-      arith::assign(v.u, std::sqrt(v.r2 / v.r1));
-    } else if (v.x1 > 0 && v.x2 > 0) {
-      arith::assign(v.u, std::sqrt(square(v.x1 / v.x2 + 1)));
-    } else if (v.a > 0) {
-      arith::assign(v.u, std::sqrt(v.a));
-    } else {
-      message("Bitte min. das Anpassungverhältnis oder " + nl +
-              "beide Widerstände oder beide Kondensatoren eingeben!");
-      v.u = 0;
-    }
-    if (v.u != 0) show(Field::Ratio, v.u);
-  }
-
-  // Matching ratio.
-  if (empty[Field::Matching]) {
-    if (v.r1 > 0 && v.r2 > 0) {
-      arith::assign(v.a, v.r2 / v.r1);
-    } else if (v.x1 > 0 && v.x2 > 0) {
-      arith::assign(v.a, square(v.x1 / v.x2 + 1));
-    } else if (v.u > 0) {
-      arith::assign(v.a, square(v.u));
-    } else {
-      message("Bitte min. das Spannungsverhältnis oder " + nl +
-              "beide Widerstände oder beide Kondensatoren eingeben!");
-      v.a = 0;
-    }
-    if (v.a != 0) show(Field::Matching, v.a);
-  }
+  divider::ratioSteps(v, empty, [](const divider::Values& w) { return w.x1 / w.x2 + 1; },
+                      QStringLiteral("Kondensatoren"), run);
 
   // R1 from R2 and the ratio, or from C2 at the frequency; shown even as 0.
   if (empty[Field::Res1]) {

@@ -64,7 +64,20 @@ struct Run {
   int computed = 0;       // fields computed in this run
   bool enableHandOver = false;
   bool endedEarly = false;  // an inductance came out 0 (inductive divider)
+
+  void message(const QString& text) { steps.push_back({Step::Message, Ratio, 0, text}); }
+  void show(Field field, double value) {
+    steps.push_back({Step::Show, field, value, {}});
+    ++computed;
+  }
 };
+
+// The first two steps of both dividers: the voltage ratio and the matching
+// ratio, each from the resistances, from the two parts (through their ratio,
+// C1/C2 + 1 or L2/L1 + 1) or from the other ratio. `partsWord` names the
+// parts in the messages ("Kondensatoren", "Induktivitäten").
+void ratioSteps(Values& v, const Empty& empty, double (*partsRatio)(const Values&), const QString& partsWord,
+                Run& run);
 
 // Result rules of the fields (list positions of the form's combos).
 units::Placement resistancePlacement();   // >= 1 MOhm MOhm, >= 1 KOhm KOhm, else Ohm

@@ -14,11 +14,8 @@ double turnsConstant() { return 0.00395 * Module1::TenPow(-6); }
 
 divider::Run compute(divider::Values v, divider::Empty empty, bool tapped) {
   divider::Run run;
-  auto message = [&](const QString& text) { run.steps.push_back({Step::Message, Field::Ratio, 0, text}); };
-  auto show = [&](Field field, double value) {
-    run.steps.push_back({Step::Show, field, value, {}});
-    ++run.computed;
-  };
+  auto message = [&](const QString& text) { run.message(text); };
+  auto show = [&](Field field, double value) { run.show(field, value); };
   auto endEarly = [&](Field field) {
     run.steps.push_back({Step::Clear, field, 0, {}});
     run.endedEarly = true;
@@ -28,37 +25,8 @@ divider::Run compute(divider::Values v, divider::Empty empty, bool tapped) {
   const QString& nl = Module1::NL;
   const auto square = [](double x) { return x * x; };
 
-  // Voltage ratio.
-  if (empty[Field::Ratio]) {
-    if (v.r1 > 0 && v.r2 > 0) {
-      arith::assign(v.u, std::sqrt(v.r2 / v.r1));
-    } else if (v.x1 > 0 && v.x2 > 0) {
-      arith::assign(v.u, std::sqrt(square(v.x2 / v.x1 + 1)));
-    } else if (v.a > 0) {
-      arith::assign(v.u, std::sqrt(v.a));
-    } else {
-      message("Bitte min. das Anpassungverhältnis oder " + nl +
-              "beide Widerstände oder beide Induktivitäten eingeben!");
-      v.u = 0;
-    }
-    if (v.u != 0) show(Field::Ratio, v.u);
-  }
-
-  // Matching ratio.
-  if (empty[Field::Matching]) {
-    if (v.r1 > 0 && v.r2 > 0) {
-      arith::assign(v.a, v.r2 / v.r1);
-    } else if (v.x1 > 0 && v.x2 > 0) {
-      arith::assign(v.a, square(v.x2 / v.x1 + 1));
-    } else if (v.u > 0) {
-      arith::assign(v.a, square(v.u));
-    } else {
-      message("Bitte min. das Spannungsverhältnis oder " + nl +
-              "beide Widerstände oder beide Induktivitäten eingeben!");
-      v.a = 0;
-    }
-    if (v.a != 0) show(Field::Matching, v.a);
-  }
+  divider::ratioSteps(v, empty, [](const divider::Values& w) { return w.x2 / w.x1 + 1; },
+                      QStringLiteral("Induktivitäten"), run);
 
   // R1 from R2, through the coils when both are known.
   if (empty[Field::Res1]) {
