@@ -1,10 +1,11 @@
-// The capacitive and inductive dividers: their schematic enlarged behind the
-// child windows after a double click, and the printout taken with all five
-// buttons hidden and the identification line shown.
+// The divider forms: their schematic enlarged behind the child windows after
+// a double click, and the printout of the capacitive and inductive dividers
+// taken with all five buttons hidden and the identification line shown.
 #include <QImage>
 #include <QLabel>
 #include <QMdiArea>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -20,9 +21,8 @@ class DividerFormsTest : public QObject {
   void initTestCase() { guitest::installDialogs(); }
 
   void doubleClickEnlargesTheSchematic_data() {
-    QTest::addColumn<QString>("form");
-    QTest::newRow("capacitive") << "CTeiler";
-    QTest::newRow("inductive") << "L2Teiler";
+    printingHidesAllFiveButtons_data();
+    QTest::newRow("voltage") << "UTeiler";
   }
 
   void doubleClickEnlargesTheSchematic() {
@@ -43,10 +43,16 @@ class DividerFormsTest : public QObject {
     // It is this form's own schematic, drawn at the size of the background.
     const QImage expected = image->render(w->mdiArea()->viewport()->size()).toImage().convertToFormat(QImage::Format_RGB32);
     QCOMPARE(shown, expected);
+    // The enlarged picture stays after the form is closed.
     f->close();
+    QCOMPARE(w->mdiArea()->background().style(), Qt::TexturePattern);
   }
 
-  void printingHidesAllFiveButtons_data() { doubleClickEnlargesTheSchematic_data(); }
+  void printingHidesAllFiveButtons_data() {
+    QTest::addColumn<QString>("form");
+    QTest::newRow("capacitive") << "CTeiler";
+    QTest::newRow("inductive") << "L2Teiler";
+  }
 
   void printingHidesAllFiveButtons() {
     QFETCH(QString, form);
@@ -54,12 +60,8 @@ class DividerFormsTest : public QObject {
     MDIForm1* w = guitest::mainWindow();
     QWidget* f = w->showShared(form);
     QVERIFY(f);
-    QList<QPushButton*> buttons;
-    for (int i = 1; i <= 5; ++i) {
-      auto* b = guitest::child<QPushButton>(f, QString("Command%1").arg(i));
-      QVERIFY(b);
-      buttons << b;
-    }
+    const QList<QPushButton*> buttons = f->findChildren<QPushButton*>(QRegularExpression("^Command[1-5]$"));
+    QCOMPARE(buttons.size(), 5);
     auto* label = guitest::child<QLabel>(f, "Label_Text");
     QVERIFY(label);
 
