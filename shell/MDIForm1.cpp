@@ -1,5 +1,7 @@
 #include "shell/MDIForm1.h"
 
+#include <algorithm>
+
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
@@ -119,6 +121,9 @@ MDIForm1::MDIForm1(QWidget* parent) : QMainWindow(parent) {
   mdi_->setObjectName("MDIArea");
   mdi_->setBackground(QColor(0x80, 0x80, 0x80));
   mdi_->viewport()->installEventFilter(this);
+  // A calculator larger than the window can still be reached.
+  mdi_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+  mdi_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   setCentralWidget(mdi_);
   connect(mdi_, &QMdiArea::subWindowActivated, this, &MDIForm1::onSubWindowActivated);
   buildMenu();
@@ -229,6 +234,8 @@ void MDIForm1::showChild(QWidget* form) {
   }
   sub->show();
   form->show();
+  // A window wider or taller than the area starts at its top left corner.
+  if (sub->x() < 0 || sub->y() < 0) sub->move(std::max(0, sub->x()), std::max(0, sub->y()));
   mdi_->setActiveSubWindow(sub);
 }
 
