@@ -131,6 +131,10 @@ void Sketch::part(Element element, QPointF a, QPointF b, const QString& name, Si
 
   // The name beside the body; for a horizontal part above (left) or below.
   const double gap = halfWidth + 8;
+  nameBeside(mid, gap, vertical, name, side);
+}
+
+void Sketch::nameBeside(QPointF mid, double gap, bool vertical, const QString& name, Side side) {
   if (vertical) {
     const double x = side == Side::Right ? mid.x() + gap : mid.x() - gap;
     symbolText(QPointF(x, mid.y()), name, (side == Side::Right ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
@@ -176,13 +180,7 @@ void Sketch::voltage(QPointF from, QPointF to, const QString& name, Side side) {
   const bool vertical = std::abs(along.y()) >= std::abs(along.x());
   p_.save();
   p_.setPen(kArrow);
-  if (vertical) {
-    const double x = side == Side::Right ? mid.x() + gap : mid.x() - gap;
-    symbolText(QPointF(x, mid.y()), name, (side == Side::Right ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
-  } else {
-    const double y = side == Side::Left ? mid.y() - gap : mid.y() + gap;
-    symbolText(QPointF(mid.x(), y), name, Qt::AlignHCenter | (side == Side::Left ? Qt::AlignBottom : Qt::AlignTop));
-  }
+  nameBeside(mid, gap, vertical, name, side);
   p_.restore();
 }
 

@@ -57,6 +57,8 @@ class Sketch {
   void symbolText(QPointF anchor, const QString& text, int alignment);
 
  private:
+  // A name beside the middle of a vertical or horizontal element, `gap` away.
+  void nameBeside(QPointF mid, double gap, bool vertical, const QString& name, Side side);
   QPainter& p_;
 };
 

@@ -56,6 +56,21 @@ QRadioButton* option(QWidget* parent, const QString& name, const QString& text) 
   return o;
 }
 
+// A frame holding two option buttons one above the other.
+QGroupBox* optionPair(QWidget* parent, const char* name, const QString& title,
+                      const std::pair<QString, QString>& first, const std::pair<QString, QString>& second,
+                      QRadioButton*& firstButton, QRadioButton*& secondButton) {
+  auto* frame = new QGroupBox(title, parent);
+  frame->setObjectName(name);
+  auto* column = new QVBoxLayout(frame);
+  firstButton = option(frame, first.first, first.second);
+  secondButton = option(frame, second.first, second.second);
+  column->addWidget(firstButton);
+  column->addWidget(secondButton);
+  column->addStretch(1);
+  return frame;
+}
+
 }  // namespace
 
 frmKuehlg2::frmKuehlg2() {
@@ -143,22 +158,10 @@ frmKuehlg2::frmKuehlg2() {
     metalle_[i] = option(rahmen2, QStringLiteral("Option%1").arg(i + 1), kuehlung::metallName(i));
     metallSpalten->addWidget(metalle_[i], i % 3, i / 3);
   }
-  auto* rahmen3 = new QGroupBox(QStringLiteral("&Oberfläche:"), rahmen1_);
-  rahmen3->setObjectName("Rahmen3");
-  auto* oberflaeche = new QVBoxLayout(rahmen3);
-  option7_ = option(rahmen3, "Option7", QStringLiteral("blank"));
-  option8_ = option(rahmen3, "Option8", QStringLiteral("geschwärzt"));
-  oberflaeche->addWidget(option7_);
-  oberflaeche->addWidget(option8_);
-  oberflaeche->addStretch(1);
-  auto* rahmen4 = new QGroupBox(QStringLiteral("&Lage:"), rahmen1_);
-  rahmen4->setObjectName("Rahmen4");
-  auto* lage = new QVBoxLayout(rahmen4);
-  option9_ = option(rahmen4, "Option9", QStringLiteral("senkrecht"));
-  option10_ = option(rahmen4, "Option10", QStringLiteral("waagerecht"));
-  lage->addWidget(option9_);
-  lage->addWidget(option10_);
-  lage->addStretch(1);
+  QGroupBox* rahmen3 = optionPair(rahmen1_, "Rahmen3", QStringLiteral("&Oberfläche:"), {"Option7", "blank"},
+                                  {"Option8", QStringLiteral("geschwärzt")}, option7_, option8_);
+  QGroupBox* rahmen4 = optionPair(rahmen1_, "Rahmen4", QStringLiteral("&Lage:"), {"Option9", "senkrecht"},
+                                  {"Option10", "waagerecht"}, option9_, option10_);
   // Only the caption of the sheet frame is bold.
   for (QWidget* w : std::initializer_list<QWidget*>{dickeText, text7_, rahmen2, rahmen3, rahmen4}) {
     QFont f = w->font();

@@ -78,6 +78,13 @@ void ratioSteps(Values& v, const Empty& empty, double (*partsRatio)(const Values
   }
 }
 
+void resistance2Step(Values& v, const Empty& empty, double (*partsRatio)(const Values&), Run& run) {
+  if (!empty[Res2]) return;
+  const double ratio = v.x1 != 0 && v.x2 != 0 ? partsRatio(v) : v.u;
+  arith::assign(v.r2, v.r1 * (ratio * ratio));
+  run.show(Res2, v.r2);
+}
+
 QString patternOf(Field field) {
   switch (field) {
     case Ratio:
@@ -105,8 +112,8 @@ divider::Run compute(divider::Values v, divider::Empty empty) {
   const QString& nl = Module1::NL;
   const auto square = [](double x) { return x * x; };
 
-  divider::ratioSteps(v, empty, [](const divider::Values& w) { return w.x1 / w.x2 + 1; },
-                      QStringLiteral("Kondensatoren"), run);
+  const auto partsRatio = [](const divider::Values& w) { return w.x1 / w.x2 + 1; };
+  divider::ratioSteps(v, empty, partsRatio, QStringLiteral("Kondensatoren"), run);
 
   // R1 from R2 and the ratio, or from C2 at the frequency; shown even as 0.
   if (empty[Field::Res1]) {
@@ -121,14 +128,7 @@ divider::Run compute(divider::Values v, divider::Empty empty) {
     show(Field::Res1, v.r1);
   }
 
-  // R2: the capacitors fix the ratio when both are known.
-  if (empty[Field::Res2]) {
-    if (v.x1 != 0 && v.x2 != 0)
-      arith::assign(v.r2, v.r1 * square(v.x1 / v.x2 + 1));
-    else
-      arith::assign(v.r2, v.r1 * square(v.u));
-    show(Field::Res2, v.r2);
-  }
+  divider::resistance2Step(v, empty, partsRatio, run);
 
   // C2 from the design relation, or from C1 and the resistances.
   if (empty[Field::Part2]) {

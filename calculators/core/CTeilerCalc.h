@@ -79,6 +79,10 @@ struct Run {
 void ratioSteps(Values& v, const Empty& empty, double (*partsRatio)(const Values&), const QString& partsWord,
                 Run& run);
 
+// R2 of both dividers: the two parts fix the ratio when both are known,
+// otherwise the voltage ratio does.
+void resistance2Step(Values& v, const Empty& empty, double (*partsRatio)(const Values&), Run& run);
+
 // Result rules of the fields (list positions of the form's combos).
 units::Placement resistancePlacement();   // >= 1 MOhm MOhm, >= 1 KOhm KOhm, else Ohm
 units::Placement capacitancePlacement();  // > 1 µF µF, > 1 nF nF, else pF

@@ -25,8 +25,8 @@ divider::Run compute(divider::Values v, divider::Empty empty, bool tapped) {
   const QString& nl = Module1::NL;
   const auto square = [](double x) { return x * x; };
 
-  divider::ratioSteps(v, empty, [](const divider::Values& w) { return w.x2 / w.x1 + 1; },
-                      QStringLiteral("Induktivitäten"), run);
+  const auto partsRatio = [](const divider::Values& w) { return w.x2 / w.x1 + 1; };
+  divider::ratioSteps(v, empty, partsRatio, QStringLiteral("Induktivitäten"), run);
 
   // R1 from R2, through the coils when both are known.
   if (empty[Field::Res1]) {
@@ -41,14 +41,7 @@ divider::Run compute(divider::Values v, divider::Empty empty, bool tapped) {
     show(Field::Res1, v.r1);
   }
 
-  // R2.
-  if (empty[Field::Res2]) {
-    if (v.x1 != 0 && v.x2 != 0)
-      arith::assign(v.r2, v.r1 * square(v.x2 / v.x1 + 1));
-    else
-      arith::assign(v.r2, v.r1 * square(v.u));
-    show(Field::Res2, v.r2);
-  }
+  divider::resistance2Step(v, empty, partsRatio, run);
 
   // L1 before L2. Without it nothing further can follow: the run ends.
   if (empty[Field::Part1]) {

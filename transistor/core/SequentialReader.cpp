@@ -254,13 +254,15 @@ int parseNumberField(const QByteArray& field, double& value) {
   return Ok;
 }
 
-int SequentialReader::readInt16(qint16& value) {
+int SequentialReader::readNumber(double& value) {
   QByteArray field;
-  int r = readField(field);
-  if (r != Ok) return r;
+  const int r = readField(field);
+  return r != Ok ? r : parseNumberField(field, value);
+}
+
+int SequentialReader::readInt16(qint16& value) {
   double v = 0.0;
-  r = parseNumberField(field, v);
-  if (r != Ok) return r;
+  if (const int r = readNumber(v); r != Ok) return r;
   v = std::nearbyint(v);  // halves go to the even neighbour
   if (v < -32768.0 || v > 32767.0) return Overflow;
   value = qint16(v);
@@ -268,12 +270,8 @@ int SequentialReader::readInt16(qint16& value) {
 }
 
 int SequentialReader::readSingle(float& value) {
-  QByteArray field;
-  int r = readField(field);
-  if (r != Ok) return r;
   double v = 0.0;
-  r = parseNumberField(field, v);
-  if (r != Ok) return r;
+  if (const int r = readNumber(v); r != Ok) return r;
   if (std::fabs(v) > double(FLT_MAX)) return Overflow;
   value = float(v);
   return Ok;

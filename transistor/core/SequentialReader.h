@@ -71,6 +71,7 @@ class SequentialReader {
   void advance() { ++bufPos_; }
   int fill();
   int readField(QByteArray& field);
+  int readNumber(double& value);  // the next field as a number
   int consumeLineEnd();  // after a CR or LF at the read position
 
   QFile file_;
