@@ -1,5 +1,6 @@
 #include "shell/PictureBox.h"
 
+#include <QImage>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -10,18 +11,48 @@ PictureBox::PictureBox(const QString& name, QWidget* parent) : QWidget(parent) {
 
 void PictureBox::setPixmap(const QPixmap& pixmap) {
   pixmap_ = pixmap;
+  surface_ = nullptr;
   update();
   updateGeometry();
 }
 
 void PictureBox::setDrawing(Drawing drawing) {
   drawing_ = std::move(drawing);
+  surface_ = nullptr;
   update();
+}
+
+void PictureBox::setSurface(const QRectF& scale, SurfaceDrawing drawing, OutputTarget::Fit fit) {
+  pixmap_ = QPixmap();
+  drawing_ = nullptr;
+  surface_ = std::move(drawing);
+  scale_ = scale;
+  fit_ = fit;
+  update();
+}
+
+QStringList PictureBox::paintSurface(QPainter& painter, const QRectF& device, double pixel) const {
+  if (!surface_) return {};
+  painter.save();
+  OutputTarget target(painter, device, scale_, fit_, pixel);
+  surface_(target);
+  painter.restore();
+  return target.texts();
+}
+
+QStringList PictureBox::texts() const {
+  if (!surface_) return {};
+  // The texts do not depend on the size; a small image is enough to measure.
+  const QSize size = width() > 0 && height() > 0 ? this->size() : sizeHint();
+  QImage scratch(size, QImage::Format_ARGB32_Premultiplied);
+  QPainter p(&scratch);
+  return paintSurface(p, QRectF(QPointF(0, 0), QSizeF(size)));
 }
 
 void PictureBox::clear() {
   pixmap_ = QPixmap();
   drawing_ = nullptr;
+  surface_ = nullptr;
   update();
 }
 
@@ -30,7 +61,8 @@ QSize PictureBox::sizeHint() const {
   return QSize(200, 160);
 }
 
-static void paintInto(QPainter& p, const QRectF& r, const QPixmap& pixmap, const PictureBox::Drawing& drawing) {
+static void paintInto(QPainter& p, const QRectF& r, const QPixmap& pixmap, const PictureBox::Drawing& drawing,
+                      const PictureBox* box) {
   p.setRenderHint(QPainter::Antialiasing);
   p.setRenderHint(QPainter::SmoothPixmapTransform);
   if (!pixmap.isNull()) {
@@ -40,20 +72,22 @@ static void paintInto(QPainter& p, const QRectF& r, const QPixmap& pixmap, const
     p.drawPixmap(target, pixmap, pixmap.rect());
   } else if (drawing) {
     drawing(p, r);
+  } else if (box->hasSurface()) {
+    box->paintSurface(p, r);
   }
 }
 
 void PictureBox::paintEvent(QPaintEvent*) {
   QPainter p(this);
   p.fillRect(rect(), Qt::white);
-  paintInto(p, QRectF(rect()), pixmap_, drawing_);
+  paintInto(p, QRectF(rect()), pixmap_, drawing_, this);
 }
 
 QPixmap PictureBox::render(const QSize& size) const {
   QPixmap out(size);
   out.fill(Qt::white);
   QPainter p(&out);
-  paintInto(p, QRectF(QPointF(0, 0), QSizeF(size)), pixmap_, drawing_);
+  paintInto(p, QRectF(QPointF(0, 0), QSizeF(size)), pixmap_, drawing_, this);
   return out;
 }
 

@@ -5,6 +5,8 @@
 #include <QPrinterInfo>
 #include <QWidget>
 
+#include "shell/PictureBox.h"
+
 namespace printing {
 namespace {
 Mode g_mode = Mode::System;
@@ -69,6 +71,27 @@ bool printWidgetImage(QWidget* widget, QString* error) {
   painter.drawPixmap(QRectF(0, 0, image.width() * scale, image.height() * scale), image, image.rect());
   painter.end();
   jobDone(widget->objectName(), 1);
+  return true;
+}
+
+bool printPicture(const PictureBox* picture, const QString& formName, QString* error) {
+  std::unique_ptr<QPrinter> printer = openDefault(error);
+  if (!printer) return false;
+  QPainter painter;
+  if (!painter.begin(printer.get())) {
+    *error = QStringLiteral("Der Druckauftrag konnte nicht begonnen werden.");
+    return false;
+  }
+  const QRectF page = painter.viewport();
+  QSizeF size = picture->size();
+  if (size.width() < 1 || size.height() < 1) size = picture->sizeHint();
+  // The picture as it is laid out on screen, enlarged as a whole to the page
+  // width (or height, for a tall picture), so text keeps its proportions.
+  const double scale = std::min(page.width() / size.width(), page.height() / size.height());
+  painter.scale(scale, scale);
+  picture->paintSurface(painter, QRectF(QPointF(0, 0), size));
+  painter.end();
+  jobDone(formName, 1);
   return true;
 }
 

@@ -8,6 +8,7 @@
 
 class QPrinter;
 class QWidget;
+class PictureBox;
 
 namespace printing {
 
@@ -24,5 +25,10 @@ void setObserver(std::function<void(const QString& form, int pages)> observer);
 
 // Prints the widget's image as one page. Returns false with an error text.
 bool printWidgetImage(QWidget* widget, QString* error);
+
+// Prints a picture box's surface drawing as one page, drawn afresh (not as a
+// bitmap) at the box's proportions and scaled to the printable page width.
+// `formName` names the job. Returns false with an error text.
+bool printPicture(const PictureBox* picture, const QString& formName, QString* error);
 
 }  // namespace printing

@@ -333,6 +333,8 @@ class Runner {
       o.add("kind", "label").add("caption", g->title());
     } else if (auto* p = qobject_cast<PictureBox*>(w)) {
       o.add("kind", "picture").add("empty", p->isEmpty());
+      // A drawing the program makes on a surface lists the texts it shows.
+      if (p->isSurfacePicture()) o.addStrings("texts", p->texts());
     } else {
       return o;
     }
