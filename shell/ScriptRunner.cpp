@@ -202,7 +202,17 @@ class Runner {
     throw ScriptError{"no open form " + name};
   }
 
+  // A read-only text control takes no text from the script, as it takes
+  // none from a person; `show` reports it with "readonly":true.
+  static void refuseReadOnly(QWidget* c) {
+    auto* e = qobject_cast<QLineEdit*>(keyTarget(c));
+    auto* t = qobject_cast<QPlainTextEdit*>(c);
+    if ((e && e->isReadOnly()) || (t && t->isReadOnly()))
+      throw ScriptError{"control " + c->objectName() + " is read-only"};
+  }
+
   void setText(QWidget* c, const QString& text) {
+    refuseReadOnly(c);
     if (auto* e = qobject_cast<QLineEdit*>(c)) {
       e->setText(text);
     } else if (auto* cb = qobject_cast<QComboBox*>(c); cb && cb->isEditable()) {
@@ -230,6 +240,7 @@ class Runner {
   }
 
   void typeText(QWidget* c, const QString& text) {
+    refuseReadOnly(c);
     QWidget* t = keyTarget(c);
     if (!qobject_cast<QLineEdit*>(t)) throw ScriptError{"control " + c->objectName() + " takes no typing"};
     t->setFocus(Qt::OtherFocusReason);
@@ -242,6 +253,9 @@ class Runner {
   }
 
   void namedKey(QWidget* c, const QString& name) {
+    // As a person's key press: the control has the focus first, so that
+    // press and release both reach it.
+    keyTarget(c)->setFocus(Qt::OtherFocusReason);
     if (name == "Backspace")
       sendKey(c, Qt::Key_Backspace, QString(QChar(8)));
     else if (name == "Delete")
@@ -303,8 +317,10 @@ class Runner {
     json::Object o;
     if (auto* e = qobject_cast<QLineEdit*>(w)) {
       o.add("kind", "text").add("text", e->text());
+      if (e->isReadOnly()) o.add("readonly", true);
     } else if (auto* t = qobject_cast<QPlainTextEdit*>(w)) {
       o.add("kind", "text").add("text", t->toPlainText().replace("\n", Module1::NL));
+      if (t->isReadOnly()) o.add("readonly", true);
     } else if (auto* cb = qobject_cast<QComboBox*>(w)) {
       QStringList items;
       for (int i = 0; i < cb->count(); ++i) items << cb->itemText(i);
