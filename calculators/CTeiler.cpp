@@ -17,7 +17,7 @@ namespace {
 
 DividerForm::Parts capacitors() {
   return {"&C1 (Kondensator):", "C2 (&Kondensator):", "ComboC1", "ComboC2", units::capacitance(),
-          divider::capacitancePlacement()};
+          divider::capacitancePlacement(), eseries::Part::Capacitor};
 }
 
 }  // namespace

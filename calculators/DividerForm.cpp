@@ -71,6 +71,8 @@ DividerForm::DividerForm(const QString& name, const QString& caption, const Part
     ++r;
   }
   c->setRowStretch(r, 1);
+  showStandardValues(field(Field::Part1), combo(Field::Part1), parts.kind);
+  showStandardValues(field(Field::Part2), combo(Field::Part2), parts.kind);
 
   grid()->addWidget(given, 0, 0);
   grid()->addWidget(circuit, 1, 0, 1, 2);

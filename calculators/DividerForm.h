@@ -36,6 +36,7 @@ class DividerForm : public CalcForm {
     QString combo1, combo2;      // names of their unit combos
     units::UnitList list;        // unit list of both combos
     units::Placement placement;  // unit of a shown part
+    eseries::Part kind;          // capacitors or coils
   };
   DividerForm(const QString& name, const QString& caption, const Parts& parts, const QString& command5,
               const QString& command5Tip);

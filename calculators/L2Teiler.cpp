@@ -26,7 +26,7 @@ const units::UnitList& coilUnits() {
 
 DividerForm::Parts coils() {
   return {QStringLiteral("&L1 (Induktivität):"), QStringLiteral("L2 (&Induktivität):"), "ComboL1", "ComboL2",
-          coilUnits(), l2teiler::inductancePlacement()};
+          coilUnits(), l2teiler::inductancePlacement(), eseries::Part::Inductor};
 }
 
 }  // namespace

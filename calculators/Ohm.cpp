@@ -15,6 +15,7 @@ Ohm::Ohm() : CalcForm("Ohm", "Ohmsches Gesetz R=U/I") {
   addRow(makeLabel("Label1", "&U (Spannung):", text1_), text1_, comboU_);
   addRow(makeLabel("Label2", "&R(Widerstand):", text2_), text2_, comboR_);
   addRow(makeLabel("Label3", "&I (Strom):", text3_), text3_, comboI_);
+  showStandardValues(text2_, comboR_, eseries::Part::Resistor);
 }
 
 void Ohm::compute() {

@@ -17,6 +17,8 @@ RL::RL() : CalcForm("RL", "RL - Berechnung ") {
   addRow(makeLabel("Label1", "&Frequenz:", text1_), text1_, comboF_);
   addRow(makeLabel("Label2", "&Widerstand:", text2_), text2_, comboR_);
   addRow(makeLabel("Label3", "&Induktivität:", text3_), text3_, comboL_);
+  showStandardValues(text2_, comboR_, eseries::Part::Resistor);
+  showStandardValues(text3_, comboL_, eseries::Part::Inductor);
   grid()->addWidget(makeLabel("Label4", "Bedingung : R = XL"), grid()->rowCount(), 0, 1, 3);
 }
 

@@ -15,6 +15,8 @@ Schwingk::Schwingk() : CalcForm("Schwingk", "Schwingkreisberechnung ") {
   addRow(makeLabel("Label1", "&Frequenz:", text1_), text1_, comboF_);
   addRow(makeLabel("Label2", "&Induktivität:", text2_), text2_, comboL_);
   addRow(makeLabel("Label3", "&Kapazität:", text3_), text3_, comboC_);
+  showStandardValues(text2_, comboL_, eseries::Part::Inductor);
+  showStandardValues(text3_, comboC_, eseries::Part::Capacitor);
 }
 
 void Schwingk::activated() {

@@ -14,6 +14,7 @@ SpuleKern::SpuleKern() : CalcForm("SpuleKern", "Spule mit Kern ") {
   addRow(makeLabel("Label1", "&AL-Wert:", text1_), text1_, comboAl_);
   addRow(makeLabel("Label2", "&Induktivität:", text2_), text2_, comboL_);
   addRow(makeLabel("Label3", "&Windungen:", text3_), text3_);
+  showStandardValues(text2_, comboL_, eseries::Part::Inductor);
 }
 
 void SpuleKern::compute() {

@@ -21,6 +21,8 @@ UTeiler::UTeiler() : CalcForm("UTeiler", "Ohmscher Spannungsteiler") {
   addRow(makeLabel("Label1", "&Verhältnis Ue/Ua :", text1_), text1_);
   addRow(makeLabel("Label2", "R&1 :", text2_), text2_, comboR1_);
   addRow(makeLabel("Label3", "R&2 :", text3_), text3_, comboR2_);
+  showStandardValues(text2_, comboR1_, eseries::Part::Resistor);
+  showStandardValues(text3_, comboR2_, eseries::Part::Resistor);
 
   // The schematic stands right of the combos, the fields centred beside it.
   image1_ = new PictureBox("Image1", this);

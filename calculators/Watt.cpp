@@ -29,6 +29,7 @@ Watt::Watt() : CalcForm("Watt", "Leistungs - Berechnung ") {
                      "Spannung (dann W = VA)"));
   conditions->setWordWrap(true);
   grid()->addWidget(conditions, grid()->rowCount(), 0, 1, 3);
+  showStandardValues(text2_, comboR_, eseries::Part::Resistor);
 }
 
 void Watt::compute() {

@@ -15,6 +15,7 @@ XC::XC() : CalcForm("XC", "Blindwiderstand Xc-Berechnung ") {
   addRow(makeLabel("Label1", "&Frequenz:", text1_), text1_, comboF_);
   addRow(makeLabel("Label2", "&XC:", text2_), text2_, comboXC_);
   addRow(makeLabel("Label3", "&Kapazität:", text3_), text3_, comboC_);
+  showStandardValues(text3_, comboC_, eseries::Part::Capacitor);
 }
 
 void XC::compute() {

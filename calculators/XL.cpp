@@ -15,6 +15,7 @@ XL::XL() : CalcForm("XL", "Blindwiderstand XL-Berechnung ") {
   addRow(makeLabel("Label1", "&Frequenz:", text1_), text1_, comboF_);
   addRow(makeLabel("Label2", "&Induktivität:", text2_), text2_, comboL_);
   addRow(makeLabel("Label3", "&XL:", text3_), text3_, comboXL_);
+  showStandardValues(text2_, comboL_, eseries::Part::Inductor);
 }
 
 void XL::compute() {

@@ -124,6 +124,7 @@ LP_Box::LP_Box() : CalcForm("LP_Box", "Lautsprecher - Box") {
     for (QWidget* w : {static_cast<QWidget*>(slotLabel_[i]), static_cast<QWidget*>(e),
                        static_cast<QWidget*>(slotCombo_[i])})
       keepPlace(w);
+    showStandardValues(e, slotCombo_[i], cap ? eseries::Part::Capacitor : eseries::Part::Inductor);
   }
   comboC1_ = findChild<QComboBox*>("ComboC1");
   comboC2_ = findChild<QComboBox*>("ComboC2");

@@ -13,7 +13,9 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "shell/Addition.h"
 #include "shell/DialogService.h"
+#include "shell/StandardValueLabels.h"
 #include "shell/PrintService.h"
 #include "shell/core/Arith.h"
 #include "shell/core/Module1.h"
@@ -95,6 +97,10 @@ QPushButton* CalcForm::makeButton(const QString& name, const QString& caption) {
   return b;
 }
 
+void CalcForm::showStandardValues(QLineEdit* field, QComboBox* combo, eseries::Part part) {
+  new StandardValueLabels(field, combo, combo ? unitsOf(combo) : units::UnitList{}, part);
+}
+
 void CalcForm::addRow(QLabel* label, QLineEdit* field, QComboBox* combo) {
   const int r = grid_->rowCount();
   grid_->addWidget(label, r, 0);
@@ -166,7 +172,7 @@ void CalcForm::clearFields() {
 QList<QWidget*> CalcForm::hiddenWhilePrinting() const {
   QList<QWidget*> r;
   for (QPushButton* b : findChildren<QPushButton*>()) {
-    if (b->objectName().startsWith("Command")) r << b;
+    if (b->objectName().startsWith("Command") || addition::is(b)) r << b;
   }
   return r;
 }

@@ -14,6 +14,7 @@
 #include <map>
 #include <vector>
 
+#include "shell/core/StandardValues.h"
 #include "shell/core/UnitPrefix.h"
 
 class QLabel;
@@ -50,6 +51,10 @@ class CalcForm : public QWidget {
   QComboBox* makeUnitCombo(const QString& name, const units::UnitList& list, int start);
   QLabel* makeLabel(const QString& name, const QString& caption, QWidget* buddy = nullptr);
   QPushButton* makeButton(const QString& name, const QString& caption);
+  // The nearest standard values shown beside a field that the form fills
+  // with a resistance, capacitance or inductance (call once the field and
+  // its combo stand in their grid row).
+  void showStandardValues(QLineEdit* field, QComboBox* combo, eseries::Part part);
   // One row of the standard grid: label, field and (optionally) combo.
   void addRow(QLabel* label, QLineEdit* field, QComboBox* combo = nullptr);
   QGridLayout* grid() const { return grid_; }

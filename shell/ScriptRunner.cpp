@@ -24,6 +24,7 @@
 #include <map>
 #include <memory>
 
+#include "shell/Addition.h"
 #include "shell/CalcForm.h"
 #include "shell/DialogService.h"
 #include "shell/FormRegistry.h"
@@ -132,7 +133,8 @@ class Runner {
     } else if (word == "show") {
       QStringList only;
       for (QString w = nextWord(rest); !w.isEmpty(); w = nextWord(rest)) only << w;
-      show(only);
+      const bool all = only == QStringList{"*"};
+      show(all ? QStringList() : only, all);
     } else if (word == "windows") {
       windows();
     } else if (word == "menustate") {
@@ -359,8 +361,10 @@ class Runner {
     return o;
   }
 
-  // `show` lists every named control; `show Text1 ComboR` only those named.
-  void show(const QStringList& only) {
+  // `show` lists every named control of the form; `show Text1 ComboR` only
+  // those named; `show *` also the controls the program adds beside the
+  // form's own (standard values, plot buttons).
+  void show(const QStringList& only, bool withAdditions = false) {
     QWidget* form = target();
     if (!form) throw ScriptError{"no active form"};
     for (const QString& n : only) control(n);
@@ -369,6 +373,7 @@ class Runner {
       const QString n = w->objectName();
       if (n.isEmpty() || n.startsWith("qt_")) continue;
       if (!only.isEmpty() && !only.contains(n)) continue;
+      if (only.isEmpty() && !withAdditions && addition::is(w)) continue;
       json::Object d = describe(form, w);
       if (d.str() == "{}") continue;
       controls.add(n, d);

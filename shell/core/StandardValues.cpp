@@ -96,6 +96,28 @@ QString deviationText(double deviation) {
   return (percent > 0 ? QStringLiteral("+") : QStringLiteral("-")) + t + QStringLiteral(" %");
 }
 
+std::vector<Series> seriesFor(Part p) {
+  if (p == Part::Resistor) return {Series::E12, Series::E24, Series::E96};
+  return {Series::E6, Series::E12, Series::E24};
+}
+
+QString describe(Series s, double value, const units::UnitList& list) {
+  const std::optional<Nearest> n = nearest(s, value);
+  if (!n || list.empty()) return {};
+  // The largest unit whose factor does not exceed the value; the smallest
+  // unit when none does.
+  size_t unit = 0;
+  for (size_t k = 1; k < list.size(); ++k)
+    if (list[k].factor() < list[unit].factor()) unit = k;
+  const double limit = n->value * (1 + 1e-12);
+  for (size_t k = 0; k < list.size(); ++k)
+    if (list[k].factor() <= limit && list[k].factor() > list[unit].factor()) unit = k;
+  const double scaledValue = units::scaleTo(list, int(unit), n->value);
+  const QString number = numfmt::format(scaledValue, "##0.0#");
+  if (number.isEmpty()) return {};
+  return name(s) + ' ' + number + ' ' + list[unit].name + QStringLiteral(" (") + deviationText(n->deviation) + ')';
+}
+
 std::optional<Pair> bestDividerPair(Series s, double r1, double r2, double ratio) {
   int e1 = 0, e2 = 0;
   double m1 = 0, m2 = 0;

@@ -5,6 +5,9 @@
 #include <QString>
 #include <optional>
 #include <span>
+#include <vector>
+
+#include "shell/core/UnitPrefix.h"
 
 namespace eseries {
 
@@ -27,6 +30,17 @@ std::optional<Nearest> nearest(Series s, double value);
 
 // The deviation as the forms show it: "+2,5 %", "-0,75 %", "0 %".
 QString deviationText(double deviation);
+
+// What a computed value is: a resistor (E12, E24, E96) or a capacitor or
+// inductor (E6, E12, E24).
+enum class Part { Resistor, Capacitor, Inductor };
+std::vector<Series> seriesFor(Part p);
+
+// One standard value as the forms show it, e.g. "E12 8,2 KOhm (+2,5 %)": the
+// value in the unit of `list` that puts it at 1 or above (the list's
+// smallest unit below that), with the deviation from `value` (base units).
+// Empty when there is no standard value.
+QString describe(Series s, double value, const units::UnitList& list);
 
 // The pair R1, R2 of standard values, R1 within the decade of r1 and R2
 // within the decade of r2 (both decade edges included), whose divider ratio

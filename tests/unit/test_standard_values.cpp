@@ -25,6 +25,13 @@ TEST_F(GermanLocale, OhmsLawExampleGivesTheThreeResistorSeries) {
   EXPECT_EQ(e96->value, 8060.0);
   EXPECT_EQ(eseries::deviationText(e96->deviation), "+0,75 %");
   EXPECT_EQ(eseries::deviationText(-0.0123), "-1,23 %");
+  EXPECT_EQ(eseries::describe(Series::E96, r, units::resistance()), "E96 8,06 KOhm (+0,75 %)");
+  // The unit is the one that puts the standard value at 1 or above.
+  EXPECT_EQ(eseries::describe(Series::E12, 1000.0, units::resistance()), "E12 1,0 KOhm (0 %)");
+  EXPECT_EQ(eseries::describe(Series::E12, 990.0, units::resistance()), "E12 1,0 KOhm (+1,01 %)");
+  EXPECT_EQ(eseries::describe(Series::E6, 0.5e-12, units::capacitance()), "E6 0,47 pF (-6,0 %)");
+  EXPECT_EQ(eseries::describe(Series::E24, 2.0e-3, units::inductance()), "E24 2,0 mH (0 %)");
+  EXPECT_EQ(eseries::describe(Series::E24, 0.0, units::inductance()), "");
 }
 
 TEST(StandardValues, DecadesAreExact) {
