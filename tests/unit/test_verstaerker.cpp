@@ -115,7 +115,9 @@ TEST_F(Verstaerker, PresetStage) {
   Entwurf smd = e;
   smd.v.smdWahl = 2;
   for (const Stueckzeile& z : stueckliste(smd, t)) {
-    if (z.pos.startsWith('R')) EXPECT_EQ(z.ausfuehrung.toStdString(), "0,125 W SMD 0805");
+    if (z.pos.startsWith('R')) {
+      EXPECT_EQ(z.ausfuehrung.toStdString(), "0,125 W SMD 0805");
+    }
   }
 }
 
