@@ -45,9 +45,9 @@ class ShellTest : public QObject {
     struct Item { const char* name; const char* caption; const char* shortcut; bool enabled; };
     const Item items[] = {{"mnuEnd", "&Beenden", "Ctrl+B", true},
                           {"mnuOhm", "&Ohmsches Gesetz", "Ctrl+O", true},
-                          {"mnudB", "&db Rechner", "Ctrl+D", false},
+                          {"mnudB", "&db Rechner", "Ctrl+D", true},
                           {"LP_3Weg_12dB", "12db/Oktave", "", true},
-                          {"mnuSchwingkreisGüte", "Güte / Bandbreite / Rp berechnen", "", false},
+                          {"mnuSchwingkreisGüte", "Güte / Bandbreite / Rp berechnen", "", true},
                           {"mnuTaschenrechner", "Taschenrechner", "Ctrl+R", true},
                           {"mnuHelp", "&Hilfe", "F1", true},
                           {"mnuInfo", "&Info", "F2", true},
