@@ -76,11 +76,16 @@ QLineEdit* CalcForm::makeField(const QString& name, bool keyFilter) {
 QComboBox* CalcForm::makeUnitCombo(const QString& name, const units::UnitList& list, int start) {
   auto* c = new QComboBox(this);
   c->setObjectName(name);
-  c->addItems(units::names(list));
-  c->setCurrentIndex(start);
   c->setMinimumContentsLength(5);
-  units_[c] = list;
+  fillUnitCombo(c, list, start);
   return c;
+}
+
+void CalcForm::fillUnitCombo(QComboBox* combo, const units::UnitList& list, int start) {
+  combo->clear();
+  combo->addItems(units::names(list));
+  combo->setCurrentIndex(start);
+  units_[combo] = list;
 }
 
 QLabel* CalcForm::makeLabel(const QString& name, const QString& caption, QWidget* buddy) {

@@ -49,6 +49,8 @@ class CalcForm : public QWidget {
   // Building blocks, each control named from the program's vocabulary.
   QLineEdit* makeField(const QString& name, bool keyFilter = true);
   QComboBox* makeUnitCombo(const QString& name, const units::UnitList& list, int start);
+  // Fills a unit combo anew with a list (a form that learns its units late).
+  void fillUnitCombo(QComboBox* combo, const units::UnitList& list, int start);
   QLabel* makeLabel(const QString& name, const QString& caption, QWidget* buddy = nullptr);
   QPushButton* makeButton(const QString& name, const QString& caption);
   // The nearest standard values shown beside a field that the form fills

@@ -104,6 +104,17 @@ const Crossover kCrossovers[] = {
     {"LP_3Weg_12dB", "Frequenzweiche Drei-Wegebox 12dB/Oktave", "3W12"},
 };
 
+// Series and parallel combinations: a new window per choice, its mode in Tag.
+struct Combination {
+  const char* item;
+  const char* mode;
+};
+const Combination kCombinations[] = {
+    {"mnuParR", "ParR"},
+    {"mnuReihC", "ReiheC"},
+    {"mnuParL", "ParL"},
+};
+
 bool isSubMenu(size_t i) {
   const size_t n = sizeof kMenu / sizeof kMenu[0];
   return i + 1 < n && kMenu[i + 1].depth > kMenu[i].depth;
@@ -171,6 +182,10 @@ void MDIForm1::buildMenu() {
     const QString caption = QString::fromUtf8(c.caption);
     const QString mode = c.mode;
     connect(actions_[c.item], &QAction::triggered, this, [this, caption, mode] { openCrossover(caption, mode); });
+  }
+  for (const Combination& c : kCombinations) {
+    const QString mode = c.mode;
+    connect(actions_[c.item], &QAction::triggered, this, [this, mode] { openCombination(mode); });
   }
   connect(actions_["mnuEnd"], &QAction::triggered, this, &QWidget::close);
   connect(actions_["mnuTaschenrechner"], &QAction::triggered, this, &MDIForm1::startCalculator);
@@ -273,6 +288,13 @@ void MDIForm1::openCrossover(const QString& caption, const QString& mode) {
   QAction* box = actions_["LPBox"];
   box->setEnabled(false);
   connect(form, &CalcForm::unloaded, box, [box] { box->setEnabled(true); });
+  showChild(form);
+}
+
+void MDIForm1::openCombination(const QString& mode) {
+  auto* form = qobject_cast<CalcForm*>(forms::create("ReihenS_RC"));
+  if (!form) return;
+  form->setTag(mode);
   showChild(form);
 }
 

@@ -51,6 +51,7 @@ class MDIForm1 : public QMainWindow {
  private:
   void buildMenu();
   void openCrossover(const QString& caption, const QString& mode);
+  void openCombination(const QString& mode);
   void showHelp();
   void showLiterature();
   void showInfo();

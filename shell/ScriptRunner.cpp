@@ -204,9 +204,16 @@ class Runner {
     throw ScriptError{"no open form " + name};
   }
 
+  // A disabled control takes no input from the script, as it takes none
+  // from a person; `show` reports it with "enabled":false.
+  static void refuseDisabled(QWidget* c) {
+    if (!c->isEnabled()) throw ScriptError{"control " + c->objectName() + " is disabled"};
+  }
+
   // A read-only text control takes no text from the script, as it takes
   // none from a person; `show` reports it with "readonly":true.
   static void refuseReadOnly(QWidget* c) {
+    refuseDisabled(c);
     auto* e = qobject_cast<QLineEdit*>(keyTarget(c));
     auto* t = qobject_cast<QPlainTextEdit*>(c);
     if ((e && e->isReadOnly()) || (t && t->isReadOnly()))
@@ -255,6 +262,7 @@ class Runner {
   }
 
   void namedKey(QWidget* c, const QString& name) {
+    refuseDisabled(c);
     // As a person's key press: the control has the focus first, so that
     // press and release both reach it.
     keyTarget(c)->setFocus(Qt::OtherFocusReason);
@@ -269,6 +277,7 @@ class Runner {
   }
 
   void select(QWidget* c, const QString& indexText) {
+    refuseDisabled(c);
     bool ok = false;
     const int i = indexText.toInt(&ok);
     if (auto* cb = qobject_cast<QComboBox*>(c)) {

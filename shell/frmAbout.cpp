@@ -1,12 +1,16 @@
 #include "shell/frmAbout.h"
 
+#include <algorithm>
+
 #include <QApplication>
 #include <QLabel>
+#include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "shell/MDIForm1.h"
 #include "shell/core/Module1.h"
 
 using Module1::NL;
@@ -89,6 +93,17 @@ frmAbout* frmAbout::text(const QString& caption, const QString& text) {
   f->version_->hide();
   f->text_->setPlainText(QString(text).replace(NL, "\n"));
   return f;
+}
+
+frmAbout* frmAbout::showText(const QString& caption, const QString& text) {
+  MDIForm1* main = mainWindow();
+  if (!main) return nullptr;
+  frmAbout* w = frmAbout::text(caption, text);
+  main->showChild(w);
+  const QSize room = main->mdiArea()->viewport()->size();
+  w->parentWidget()->resize(std::max(room.width() * 2 / 3, std::min(room.width(), 640)),
+                            std::max(room.height() / 2, std::min(room.height(), 260)));
+  return w;
 }
 
 frmAbout* frmAbout::help() { return text(" Kurzhilfe", helpText()); }

@@ -15,6 +15,9 @@ class frmAbout : public QWidget {
   static frmAbout* literature();
   // A text window with the given caption and text (lines joined with NL).
   static frmAbout* text(const QString& caption, const QString& text);
+  // A new text window shown in the main window, as a form's hint button opens
+  // it; nullptr without a main window.
+  static frmAbout* showText(const QString& caption, const QString& text);
 
   static QString helpText();
   static QString literatureText();

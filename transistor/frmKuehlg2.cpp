@@ -27,6 +27,7 @@
 #include "transistor/SucheDialog.h"
 #include "transistor/core/Kuehlkoerper.h"
 #include "transistor/core/TransistorState.h"
+#include "transistor/frmTrans1.h"
 
 QUARZEL_REGISTER_FORM("frmKühlg2", frmKuehlg2);
 
@@ -356,16 +357,16 @@ void frmKuehlg2::staerkererTyp(double p) {
 }
 
 void frmKuehlg2::abbrechen() {
-  // Back to the designer's schematic, when the designer is open.
-  if (MDIForm1* main = mainWindow()) {
-    for (QMdiSubWindow* s : main->childWindows()) {
-      if (s->widget() && s->widget()->objectName() == QLatin1String("frmTrans1")) main->activate(s->widget());
-    }
-  }
+  // Closes, and brings the designer back on its schematic when it is open.
   if (auto* sub = qobject_cast<QMdiSubWindow*>(parentWidget()))
     sub->close();
   else
     close();
+  if (MDIForm1* main = mainWindow()) {
+    for (QMdiSubWindow* s : main->childWindows()) {
+      if (auto* designer = qobject_cast<frmTrans1*>(s->widget())) designer->ZeigeSchaltbild();
+    }
+  }
 }
 
 QStringList frmKuehlg2::druckZeilen() const {

@@ -62,10 +62,59 @@ bool increment(std::string& digits) {
   return true;
 }
 
+// Scientific pattern such as "0.000E+00": one integer digit, the decimals of
+// the mantissa part, and an exponent with at least as many digits as the
+// pattern's zeros after "E+" (sign always) or "E-" (minus only).
+QString scientific(double value, const QString& pattern, const QLocale& locale) {
+  const qsizetype e = pattern.indexOf(QLatin1Char('E'));
+  const Pattern p = parsePattern(pattern.left(e));
+  const QString expPart = pattern.mid(e + 1);
+  const bool plusSign = expPart.startsWith(QLatin1Char('+'));
+  const int expDigits = std::max(1, int(expPart.count(QLatin1Char('0'))));
+
+  std::string digits(1, '0');
+  int exp10 = 0;
+  if (value != 0) {
+    char buf[64];
+    const auto res = std::to_chars(buf, buf + sizeof buf, std::fabs(value), std::chars_format::scientific);
+    const std::string s(buf, res.ptr);
+    const size_t ePos = s.find('e');
+    digits = s.substr(0, ePos);
+    digits.erase(std::remove(digits.begin(), digits.end(), '.'), digits.end());
+    exp10 = std::stoi(s.substr(ePos + 1));
+  }
+  const size_t keep = size_t(1 + p.maxFrac);
+  if (digits.size() > keep) {
+    const bool roundUp = digits[keep] >= '5';
+    digits.resize(keep);
+    if (roundUp && increment(digits)) {
+      digits.insert(digits.begin(), '1');
+      digits.pop_back();
+      ++exp10;
+    }
+  }
+  std::string frac = digits.substr(1);
+  while (int(frac.size()) > p.minFrac && frac.back() == '0') frac.pop_back();
+  while (int(frac.size()) < p.minFrac) frac.push_back('0');
+
+  QString out;
+  if (value < 0) out += locale.negativeSign();
+  out += QLatin1Char(digits[0]);
+  if (!frac.empty()) out += locale.decimalPoint() + QString::fromLatin1(frac.data(), qsizetype(frac.size()));
+  out += QLatin1Char('E');
+  if (exp10 < 0)
+    out += QLatin1Char('-');
+  else if (plusSign)
+    out += QLatin1Char('+');
+  out += QString::number(std::abs(exp10)).rightJustified(expDigits, QLatin1Char('0'));
+  return out;
+}
+
 }  // namespace
 
 QString format(double value, const QString& pattern, const QLocale& locale) {
   if (!std::isfinite(value)) return QString();
+  if (pattern.contains(QLatin1Char('E'))) return scientific(value, pattern, locale);
   const Pattern p = parsePattern(pattern);
   std::string intDigits, fracDigits;
   decimalDigits(value, intDigits, fracDigits);

@@ -2,7 +2,9 @@
 // Number patterns of the result fields, e.g. "####0.0###": "0" is a digit
 // that is always shown, "#" a digit shown only when needed; the value is
 // rounded (half away from zero) to the pattern's last decimal place and
-// written with the decimal separator of the given locale.
+// written with the decimal separator of the given locale. A pattern with an
+// exponent, "0.000E+00", shows one integer digit and the exponent with at
+// least the pattern's number of exponent digits.
 #include <QLocale>
 #include <QString>
 
