@@ -9,6 +9,7 @@
 
 #include "calculators/core/QLCRCalc.h"
 #include "calculators/core/SchwingkCalc.h"
+#include "shell/FormText.h"
 #include "shell/DialogService.h"
 #include "shell/FormRegistry.h"
 #include "shell/core/Arith.h"
@@ -64,6 +65,10 @@ QLCR::QLCR() : CalcForm("QLCR", "Schwingkreis - Güte / Bandbreite / Rp") {
   row(g2, "Label5", "Bandbrei&te B:", text5_, comboB_);
   row(g2, "Label6", "Resonanzwiderstand R&p:", text6_, comboRp_);
   row(g2, "Label7", "&Verlustwiderstand Rs:", text7_, comboRs_);
+  showStandardValues(text2_, comboL_, eseries::Part::Inductor);
+  showStandardValues(text3_, comboC_, eseries::Part::Capacitor);
+  // Rp as the damping resistor across the circuit.
+  showStandardValues(text6_, comboRp_, eseries::Part::Resistor);
   // Both frames share their column widths.
   for (QGridLayout* g : {g1, g2}) g->setColumnMinimumWidth(0, 170);
 
@@ -71,6 +76,7 @@ QLCR::QLCR() : CalcForm("QLCR", "Schwingkreis - Güte / Bandbreite / Rp") {
   grid()->addWidget(frame2, 1, 0, 1, 3);
   grid()->addWidget(makeLabel("Label8", QStringLiteral("Bedingung : Q >> 1 (Rp = Q² · Rs)")), 2, 0, 1, 3);
   label9_ = makeLabel("Label9", QString());
+  formtext::markResult(label9_);
   grid()->addWidget(label9_, 3, 0, 1, 3);
   grid()->setRowStretch(4, 1);
 

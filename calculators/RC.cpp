@@ -28,6 +28,8 @@ RC::RC() : CalcForm("RC", "RC - Berechnung ") {
   addRow(makeLabel("Label2", "&Widerstand:", text2_), text2_, comboR_);
   addRow(makeLabel("Label3", QStringLiteral("&Kapazität:"), text3_), text3_, comboC_);
   addRow(makeLabel("Label5", QStringLiteral("Zeitkonstante R·C:")), text4_, comboT_);
+  showStandardValues(text2_, comboR_, eseries::Part::Resistor);
+  showStandardValues(text3_, comboC_, eseries::Part::Capacitor);
   grid()->addWidget(makeLabel("Label4", "Bedingung : R = XC"), grid()->rowCount(), 0, 1, 3);
 }
 

@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include "calculators/core/RLCCalc.h"
+#include "shell/FormText.h"
 #include "shell/DialogService.h"
 #include "shell/FormRegistry.h"
 
@@ -99,6 +100,7 @@ RLC::RLC() : CalcForm("RLC", "RLC - Berechnung ") {
   }
   results->addWidget(makeLabel("Label11", QStringLiteral("°")), 3, 2);
   label10_ = makeLabel("Label10", QString());
+  formtext::markResult(label10_);
   results->addWidget(label10_, row, 0, 1, 3);
 
   grid()->addWidget(frame1, 0, 0);

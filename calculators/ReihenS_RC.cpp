@@ -48,6 +48,13 @@ void ReihenS_RC::setUpMode() {
   label3_->setText(mode->labels[2]);
   label4_->setText(mode->formula);
   for (QComboBox* c : {combo1_, combo2_, combo3_}) fillUnitCombo(c, *mode->units, mode->start);
+  // Each of the three values may be the computed one.
+  const eseries::Part part = modus_ == "ParR"     ? eseries::Part::Resistor
+                             : modus_ == "ReiheC" ? eseries::Part::Capacitor
+                                                  : eseries::Part::Inductor;
+  showStandardValues(text1_, combo1_, part);
+  showStandardValues(text2_, combo2_, part);
+  showStandardValues(text3_, combo3_, part);
 }
 
 void ReihenS_RC::compute() {

@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "calculators/core/SpuleLuftCalc.h"
+#include "shell/FormText.h"
 #include "shell/DialogService.h"
 #include "shell/FormRegistry.h"
 #include "shell/core/Module1.h"
@@ -30,9 +31,11 @@ SpuleLuft::SpuleLuft() : CalcForm("SpuleLuft", "Luftspule (einlagig)") {
   addRow(makeLabel("Label3", "D&urchmesser [mm]:", text3_), text3_);
   addRow(makeLabel("Label4", QStringLiteral("Wickel&länge [mm]:"), text4_), text4_);
   addRow(makeLabel("Label5", "D&rahtdurchmesser [mm]:", text5_), text5_);
+  showStandardValues(text1_, comboL_, eseries::Part::Inductor);
   grid()->addWidget(makeLabel("Label7", QStringLiteral("Bedingung : einlagig, l > 0,4 · D")), grid()->rowCount(), 0,
                     1, 3);
   label8_ = makeLabel("Label8", QString());
+  formtext::markResult(label8_);
   grid()->addWidget(label8_, grid()->rowCount(), 0, 1, 3);
   grid()->setRowStretch(grid()->rowCount(), 1);
 

@@ -4,11 +4,14 @@
 
 #include "calculators/Schematics.h"
 #include "calculators/core/UTeilerCalc.h"
+#include "shell/Addition.h"
 #include "shell/DialogService.h"
 #include "shell/FormRegistry.h"
 #include "shell/MDIForm1.h"
 #include "shell/PictureBox.h"
 #include "shell/core/Module1.h"
+#include "shell/core/NumberFormat.h"
+#include "shell/core/StandardValues.h"
 
 QUARZEL_REGISTER_FORM("UTeiler", UTeiler);
 
@@ -23,15 +26,29 @@ UTeiler::UTeiler() : CalcForm("UTeiler", "Ohmscher Spannungsteiler") {
   addRow(makeLabel("Label3", "R&2 :", text3_), text3_, comboR2_);
   showStandardValues(text2_, comboR1_, eseries::Part::Resistor);
   showStandardValues(text3_, comboR2_, eseries::Part::Resistor);
+  // Below the fields: the resistor pairs that come closest to the ratio.
+  paarE24_ = makeLabel("PaarE24", QString());
+  paarE96_ = makeLabel("PaarE96", QString());
+  for (QLabel* l : {paarE24_, paarE96_}) {
+    addition::mark(l);
+    l->hide();
+    grid()->addWidget(l, grid()->rowCount(), 0, 1, 6);
+  }
+  for (QLineEdit* e : {text1_, text2_, text3_})
+    connect(e, &QLineEdit::textEdited, this, [this] {
+      paarE24_->hide();
+      paarE96_->hide();
+    });
 
-  // The schematic stands right of the combos, the fields centred beside it.
+  // The schematic stands right of the combos and the standard values, the
+  // fields centred beside it.
   image1_ = new PictureBox("Image1", this);
   image1_->setDrawing(schematics::drawVoltageDivider);
   image1_->setMinimumSize(170, 186);
   image1_->setToolTip(QString::fromUtf8("Doppelklick: Schaltbild vergrößert im Hintergrund zeigen"));
   const int rows = grid()->rowCount();
-  grid()->addWidget(image1_, 0, 3, rows + 1, 1);
-  grid()->setColumnMinimumWidth(3, 170);
+  grid()->addWidget(image1_, 0, 6, rows + 1, 1);
+  grid()->setColumnMinimumWidth(6, 170);
   grid()->setRowStretch(0, 1);
   grid()->setRowStretch(rows, 1);
   connect(image1_, &PictureBox::doubleClicked, this, &UTeiler::enlargePicture);
@@ -53,6 +70,28 @@ void UTeiler::compute() {
           default: return uteiler::lower(v[0], v[1]);
         }
       });
+  proposePairs();
+}
+
+void UTeiler::proposePairs() {
+  const double ratio = read(text1_), r1 = read(text2_, comboR1_), r2 = read(text3_, comboR2_);
+  const bool complete = ratio > 1 && r1 > 0 && r2 > 0;
+  const std::pair<QLabel*, eseries::Series> rows[] = {{paarE24_, eseries::Series::E24},
+                                                      {paarE96_, eseries::Series::E96}};
+  for (const auto& [label, series] : rows) {
+    const auto pair = complete ? eseries::bestDividerPair(series, r1, r2, ratio) : std::nullopt;
+    if (!pair) {
+      label->hide();
+      continue;
+    }
+    label->setText(eseries::name(series) + QStringLiteral("-Paar: R1 = ") +
+                   eseries::valueText(pair->r1, units::resistance()) + QStringLiteral(", R2 = ") +
+                   eseries::valueText(pair->r2, units::resistance()) + QStringLiteral(", Ue/Ua = ") +
+                   numfmt::format(pair->ratio, "##0.0###") + QStringLiteral(" (") +
+                   eseries::deviationText(pair->error) + ')');
+    label->show();
+  }
+  addition::makeRoom(this);
 }
 
 void UTeiler::enlargePicture() {

@@ -4,6 +4,7 @@
 class QComboBox;
 class QLineEdit;
 class PictureBox;
+class QLabel;
 
 // Unloaded resistive voltage divider: the missing one of ratio, R1 and R2,
 // beside a schematic that shows which resistor is which.
@@ -15,7 +16,10 @@ class UTeiler : public CalcForm {
 
  private:
   void enlargePicture();
+  // The best E24 and E96 pairs for the ratio, below the fields.
+  void proposePairs();
 
+  QLabel *paarE24_, *paarE96_;
   QLineEdit *text1_, *text2_, *text3_;
   QComboBox *comboR1_, *comboR2_;
   PictureBox* image1_;

@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include "calculators/core/dBCalc.h"
+#include "shell/FormText.h"
 #include "shell/DialogService.h"
 #include "shell/FormRegistry.h"
 #include "shell/core/Arith.h"
@@ -70,6 +71,7 @@ dB::dB() : CalcForm("dB", "dB - Rechner") {
   addRow(makeLabel("Label3", "dB-&Wert:", text3_), text3_);
   grid()->addWidget(makeLabel("Label4", "dB"), grid()->rowCount() - 1, 2);
   label6_ = makeLabel("Label6", QString());
+  formtext::markResult(label6_);
   // Room for the ratio line with a ratio of several digits on both sides.
   label6_->setMinimumWidth(label6_->fontMetrics().horizontalAdvance(
       QStringLiteral("Verhältnis Ausgang / Eingang: 0000000,00000")));

@@ -18,6 +18,7 @@
 #include "shell/CalcForm.h"
 #include "shell/DialogService.h"
 #include "shell/FormRegistry.h"
+#include "shell/FormText.h"
 #include "shell/frmAbout.h"
 #include "shell/core/Module1.h"
 
@@ -246,6 +247,8 @@ void MDIForm1::showChild(QWidget* form) {
     sub->setAttribute(Qt::WA_DeleteOnClose);
     sub->setWindowIcon(windowIcon());
     sub->adjustSize();
+    // Calculators (not the text windows) can be copied as text.
+    if (form->objectName() != "frmAbout") formtext::install(form);
   }
   sub->show();
   form->show();

@@ -4,6 +4,8 @@
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QKeyEvent>
@@ -120,7 +122,12 @@ class Runner {
         select(c, arg);
     } else if (word == "click") {
       const QString name = nextWord(rest);
-      click(name, control(name));
+      if (QAction* a = formAction(name))
+        a->trigger();
+      else
+        click(name, control(name));
+    } else if (word == "clipboard") {
+      emitLine(json::Object().add("clipboard", QGuiApplication::clipboard()->text()).str());
     } else if (word == "dblclick") {
       dblclick(control(nextWord(rest)));
     } else if (word == "leave") {
@@ -168,6 +175,15 @@ class Runner {
 
  private:
   QWidget* target() const { return main_.activeForm(); }
+
+  // An action of the active form (its context-menu entries), by object name.
+  QAction* formAction(const QString& name) {
+    QWidget* form = target();
+    if (!form || name.isEmpty()) return nullptr;
+    for (QAction* a : form->actions())
+      if (a->objectName() == name) return a;
+    return nullptr;
+  }
 
   QWidget* control(const QString& name) {
     QWidget* form = target();

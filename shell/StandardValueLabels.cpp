@@ -21,21 +21,6 @@ QGridLayout* gridOf(QLayout* layout, QWidget* w) {
   return nullptr;
 }
 
-// A calculator grows its window when the labels first need room, so that
-// nothing beside the fields is squeezed or cut.
-void growWindowFor(QWidget* w) {
-  QWidget* form = w->window();
-  for (QWidget* p = w; p; p = p->parentWidget()) {
-    if (auto* sub = qobject_cast<QMdiSubWindow*>(p)) {
-      if (sub->widget() && sub->widget()->layout()) sub->widget()->layout()->activate();
-      const QSize want = sub->sizeHint().expandedTo(sub->size());
-      if (want != sub->size()) sub->resize(want);
-      return;
-    }
-  }
-  if (form->layout()) form->layout()->activate();
-}
-
 }  // namespace
 
 StandardValueLabels::StandardValueLabels(QLineEdit* field, QComboBox* combo, units::UnitList list, eseries::Part part)
@@ -88,6 +73,6 @@ void StandardValueLabels::update() {
     l->setVisible(!text.isEmpty());
     grew = grew || !text.isEmpty();
   }
-  if (grew) growWindowFor(field_);
+  if (grew) addition::makeRoom(field_);
   emit changed();
 }

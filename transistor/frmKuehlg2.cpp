@@ -17,6 +17,7 @@
 #include <QVBoxLayout>
 #include <memory>
 
+#include "shell/FormText.h"
 #include "shell/DialogService.h"
 #include "shell/FormRegistry.h"
 #include "shell/MDIForm1.h"
@@ -136,6 +137,7 @@ frmKuehlg2::frmKuehlg2() {
   // The sheet: thickness, metal, surface and position; its caption shows
   // the size found.
   rahmen1_ = new QGroupBox(QStringLiteral("Kühlblech: "), this);
+  formtext::markResult(rahmen1_);
   rahmen1_->setObjectName("Rahmen1");
   {
     QFont f = rahmen1_->font();

@@ -612,6 +612,21 @@ void frmTrans1::stueckliste(OutputTarget& t) const {
   for (const Stueckzeile& z : verstaerker::stueckliste(entwurf_, typ_)) zeile(z.pos, z.wert, z.ausfuehrung);
 }
 
+QStringList frmTrans1::resultLines() const {
+  if (!entwurfDa_) return {};
+  QStringList lines{QStringLiteral("Technische Daten  Transistor - A - Verstärker")};
+  for (const Datenzeile& z : datenzeilen(entwurf_, typ_)) {
+    QString line = z.titel;
+    for (const QString& part : {z.zahl, z.einheit, z.text})
+      if (!part.isEmpty()) line += ' ' + part;
+    lines << line;
+  }
+  lines << QString() << QStringLiteral("Stückliste  Transistor - A - Verstärker");
+  for (const Stueckzeile& z : verstaerker::stueckliste(entwurf_, typ_))
+    lines << z.pos + '\t' + z.wert + '\t' + z.ausfuehrung;
+  return lines;
+}
+
 void frmTrans1::kuehlung() {
   MDIForm1* m = mainWindow();
   if (!m || !entwurfDa_) return;

@@ -5,6 +5,7 @@
 // technical data and the parts list; prints them, opens the heat-sink
 // calculator and has its own help.
 #include <QString>
+#include <QStringList>
 #include <QWidget>
 
 #include "transistor/core/Verstaerker.h"
@@ -30,6 +31,9 @@ class frmTrans1 : public QWidget {
   // Page 1 on the screen and the form in front (the heat-sink calculator
   // comes back here).
   void ZeigeSchaltbild();
+  // The technical data and the parts list of the last design as text lines
+  // (for the form's text on the clipboard).
+  Q_INVOKABLE QStringList resultLines() const;
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;

@@ -101,21 +101,27 @@ std::vector<Series> seriesFor(Part p) {
   return {Series::E6, Series::E12, Series::E24};
 }
 
-QString describe(Series s, double value, const units::UnitList& list) {
-  const std::optional<Nearest> n = nearest(s, value);
-  if (!n || list.empty()) return {};
+QString valueText(double value, const units::UnitList& list) {
+  if (list.empty() || !std::isfinite(value)) return {};
   // The largest unit whose factor does not exceed the value; the smallest
   // unit when none does.
   size_t unit = 0;
   for (size_t k = 1; k < list.size(); ++k)
     if (list[k].factor() < list[unit].factor()) unit = k;
-  const double limit = n->value * (1 + 1e-12);
+  const double limit = value * (1 + 1e-12);
   for (size_t k = 0; k < list.size(); ++k)
     if (list[k].factor() <= limit && list[k].factor() > list[unit].factor()) unit = k;
-  const double scaledValue = units::scaleTo(list, int(unit), n->value);
-  const QString number = numfmt::format(scaledValue, "##0.0#");
+  const QString number = numfmt::format(units::scaleTo(list, int(unit), value), "##0.0#");
   if (number.isEmpty()) return {};
-  return name(s) + ' ' + number + ' ' + list[unit].name + QStringLiteral(" (") + deviationText(n->deviation) + ')';
+  return number + ' ' + list[unit].name;
+}
+
+QString describe(Series s, double value, const units::UnitList& list) {
+  const std::optional<Nearest> n = nearest(s, value);
+  if (!n) return {};
+  const QString v = valueText(n->value, list);
+  if (v.isEmpty()) return {};
+  return name(s) + ' ' + v + QStringLiteral(" (") + deviationText(n->deviation) + ')';
 }
 
 std::optional<Pair> bestDividerPair(Series s, double r1, double r2, double ratio) {

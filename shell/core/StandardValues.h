@@ -36,6 +36,10 @@ QString deviationText(double deviation);
 enum class Part { Resistor, Capacitor, Inductor };
 std::vector<Series> seriesFor(Part p);
 
+// A value in base units written in the unit of `list` that puts it at 1 or
+// above (the list's smallest unit below that), e.g. "8,2 KOhm".
+QString valueText(double value, const units::UnitList& list);
+
 // One standard value as the forms show it, e.g. "E12 8,2 KOhm (+2,5 %)": the
 // value in the unit of `list` that puts it at 1 or above (the list's
 // smallest unit below that), with the deviation from `value` (base units).
