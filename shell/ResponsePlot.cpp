@@ -119,11 +119,13 @@ void ResponsePlot::zeichne(OutputTarget& t, const bode::Plot& plot) {
   // From the top: panel title and legend, the marker labels, the panels;
   // at the bottom the frequency labels and the axis caption.
   const double titel = kRand;
-  const double oben = titel + zeile * 1.4 + reihen * zeile * 1.05 + 4;
+  const double oben = titel + zeile * 1.5 + reihen * zeile * 1.05 + 4;
   const double unten = kSkala.bottom() - kRand - zeile * 2.7;
   QRectF erstes(QPointF(kLinks, oben), QPointF(kRechts, unten));
   QRectF zweites;
-  const double luecke = zeile * 1.5 + 8;
+  // Between the panels the phase title, clear of the value labels that
+  // stand out half a line above and below the panels' edges.
+  const double luecke = zeile * 2 + 6;
   if (plot.lower) {
     const double hoehe = (unten - oben - luecke) * 0.58;
     erstes.setBottom(oben + hoehe);
@@ -156,7 +158,7 @@ void ResponsePlot::zeichne(OutputTarget& t, const bode::Plot& plot) {
   feld(t, plot.upper, erstes, achse, frequenzen, plot.f);
   if (plot.lower) {
     t.setFont(9, true);
-    t.text({kRand, zweites.top() - luecke + 6}, plot.lower->title, Qt::AlignLeft | Qt::AlignTop);
+    t.text({kRand, erstes.bottom() + zeile / 2 + 3}, plot.lower->title, Qt::AlignLeft | Qt::AlignTop);
     t.setFont(9);
     feld(t, *plot.lower, zweites, achse, frequenzen, plot.f);
   }
@@ -172,8 +174,13 @@ void ResponsePlot::zeichne(OutputTarget& t, const bode::Plot& plot) {
   const double unterschrift = letztes.bottom() + zeile / 2 + 1;
   t.setTextColor(Qt::black);
   for (const bode::Tick& tick : frequenzen) {
-    if (!tick.label.isEmpty())
-      t.text({achse.x(tick.value), unterschrift}, tick.label, Qt::AlignHCenter | Qt::AlignTop);
+    if (tick.label.isEmpty()) continue;
+    // Labels at the ends stay within the picture.
+    const double x = achse.x(tick.value), w = t.TextWidth(tick.label);
+    if (x + w / 2 > kSkala.right() - 2)
+      t.text({kSkala.right() - 2, unterschrift}, tick.label, Qt::AlignRight | Qt::AlignTop);
+    else
+      t.text({x, unterschrift}, tick.label, Qt::AlignHCenter | Qt::AlignTop);
   }
   t.text({(kLinks + kRechts) / 2, unterschrift + zeile * 1.1}, QStringLiteral("Frequenz f"),
          Qt::AlignHCenter | Qt::AlignTop);

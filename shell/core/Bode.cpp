@@ -228,7 +228,8 @@ void fitRange(Panel& panel) {
     case Scale::Ohm: {
       if (!(lo <= hi)) lo = hi = 1;
       if (!(endLo <= endHi)) endLo = lo, endHi = hi;
-      double a = std::floor(std::log10(lo) + 1e-9), b = std::ceil(std::log10(hi) - 1e-9);
+      // A curve that just touches a decade gets the next one as room.
+      double a = std::floor(std::log10(lo) - 0.05), b = std::ceil(std::log10(hi) + 0.05);
       a = std::max(a, std::floor(std::log10(endLo) + 1e-9) - 3);
       b = std::min(b, std::ceil(std::log10(endHi) - 1e-9) + 3);
       if (b - a < 2) {

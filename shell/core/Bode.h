@@ -86,7 +86,8 @@ std::pair<double, double> decadesAround(double f);
 
 // Ranges that hold the curves of a panel: dB to the next 10 above (at least
 // 10 dB headroom over 0) and at most 70 dB below that; degrees at least
-// -90..90 in steps of 45; ohm whole decades, at most three decades beyond
+// -90..90 in steps of 45; ohm whole decades with some room above and
+// below the curves, at most three decades beyond
 // the values at the ends of the sweep (a lossless circuit's zero or pole
 // would otherwise swallow the scale).
 void fitRange(Panel& panel);
