@@ -78,7 +78,9 @@ void feld(OutputTarget& t, const bode::Panel& panel, const QRectF& r, const Achs
 
 }  // namespace
 
-ResponsePlot::ResponsePlot(const QString& name, const QString& title) : PlotWindow(name, title, QSize(600, 420)) {}
+// The least sizes at which labels and panels still stand apart.
+ResponsePlot::ResponsePlot(const QString& name, const QString& title, bool phase)
+    : PlotWindow(name, title, phase ? QSize(600, 420) : QSize(600, 340)) {}
 
 void ResponsePlot::setPlot(const bode::Plot& plot) {
   picture()->clear();
@@ -226,7 +228,7 @@ void FrequencyResponse::reset() {
 void FrequencyResponse::open() {
   if (plot_.empty()) return;
   if (!window_) {
-    window_ = new ResponsePlot(form_->objectName() + QStringLiteral("_Frequenzgang"), title());
+    window_ = new ResponsePlot(form_->objectName() + QStringLiteral("_Frequenzgang"), title(), bool(plot_.lower));
     window_->setPlot(plot_);
   }
   window_->zeigenUnter(form_);

@@ -22,7 +22,8 @@ class QPushButton;
 class ResponsePlot : public PlotWindow {
   Q_OBJECT
  public:
-  ResponsePlot(const QString& name, const QString& title);
+  // `phase`: the plot has a phase panel below the level and needs more height.
+  ResponsePlot(const QString& name, const QString& title, bool phase);
 
   void setPlot(const bode::Plot& plot);
 
