@@ -7,6 +7,7 @@
 #include <QPointF>
 #include <QString>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace bode {
