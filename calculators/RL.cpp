@@ -4,6 +4,7 @@
 
 #include "calculators/core/RLCalc.h"
 #include "shell/FormRegistry.h"
+#include "shell/ResponsePlot.h"
 
 QUARZEL_REGISTER_FORM("RL", RL);
 
@@ -20,10 +21,11 @@ RL::RL() : CalcForm("RL", "RL - Berechnung ") {
   showStandardValues(text2_, comboR_, eseries::Part::Resistor);
   showStandardValues(text3_, comboL_, eseries::Part::Inductor);
   grid()->addWidget(makeLabel("Label4", "Bedingung : R = XL"), grid()->rowCount(), 0, 1, 3);
+  frequenzgang_ = new FrequencyResponse(this, buttonColumn());
 }
 
 void RL::compute() {
-  computeEmptyField(
+  const bool computed = computeEmptyField(
       {{text1_, comboF_, rl::frequencyPlacement(), "####0.0########"},
        {text2_, comboR_, rl::resistancePlacement(), "####0.0####"},
        {text3_, comboL_, rl::inductancePlacement(), "###0.0####"}},
@@ -34,4 +36,10 @@ void RL::compute() {
           default: return rl::inductance(v[0], v[1]);
         }
       });
+  if (computed) frequenzgang_->setPlot(bode::rlFilter(read(text2_, comboR_), read(text3_, comboL_)));
+}
+
+void RL::clearFields() {
+  CalcForm::clearFields();
+  frequenzgang_->reset();
 }

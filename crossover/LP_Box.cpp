@@ -13,10 +13,12 @@
 #include <algorithm>
 
 #include "crossover/core/Crossover.h"
+#include "crossover/core/CrossoverResponse.h"
 #include "shell/DialogService.h"
 #include "shell/FormRegistry.h"
 #include "shell/MDIForm1.h"
 #include "shell/PictureBox.h"
+#include "shell/ResponsePlot.h"
 #include "shell/core/Module1.h"
 #include "shell/frmAbout.h"
 
@@ -147,6 +149,7 @@ LP_Box::LP_Box() : CalcForm("LP_Box", "Lautsprecher - Box") {
   QPushButton* hint = makeButton("Command5", "Hin&weis");
   buttonColumn()->insertWidget(4, hint);
   connect(hint, &QPushButton::clicked, this, &LP_Box::showHint);
+  frequenzgang_ = new FrequencyResponse(this, buttonColumn());
 
   // Defaults of a newly loaded form.
   field(1)->setText("4");
@@ -210,12 +213,37 @@ void LP_Box::compute() {
   if (out.message) {
     const auto icon = out.message->icon == lpbox::Icon::Exclamation ? dialogs::Icon::Exclamation : dialogs::Icon::None;
     dialogs::msgBox(out.message->text, icon, dialogs::Buttons::OK, out.message->title);
+    return;
   }
+  if (out.displayed > 0) updatePlot();
+}
+
+void LP_Box::updatePlot() {
+  // The network as the form now shows it: each component in the unit of
+  // its own combo, the loudspeakers as their impedances.
+  const auto mode = lpbox::modeFromTag(tag());
+  if (!mode) return;
+  lpbox::NetworkValues v;
+  v.rTT = Module1::ParseNumber(field(1)->text());
+  v.rMT = Module1::ParseNumber(field(6)->text());
+  v.rHT = Module1::ParseNumber(field(8)->text());
+  const auto& table = lpbox::slotTable();
+  for (size_t i = 0; i < table.size(); ++i) {
+    const bool cap = table[i].kind == lpbox::Kind::Capacitor;
+    const double factor =
+        units::factorAt(cap ? lpbox::capacitorUnits() : lpbox::inductorUnits(), slotCombo_[i]->currentIndex());
+    v.part[size_t(table[i].field)] = Module1::ParseNumber(field(table[i].field)->text()) * factor;
+  }
+  const bool threeWay = lpbox::layout(*mode).threeWay;
+  const double fo = Module1::ParseNumber(field(9)->text());
+  const double fu = threeWay ? Module1::ParseNumber(field(7)->text()) : 0;
+  frequenzgang_->setPlot(lpbox::responsePlot(*mode, v, fo, fu));
 }
 
 void LP_Box::clearFields() {
   // R_TT stays: the woofer usually remains the same between designs.
   for (int n = 2; n <= 13; ++n) field(n)->clear();
+  frequenzgang_->reset();
 }
 
 void LP_Box::showHint() {

@@ -8,6 +8,7 @@ class QComboBox;
 class QGroupBox;
 class QLabel;
 class QLineEdit;
+class FrequencyResponse;
 class PictureBox;
 class QWidget;
 
@@ -27,6 +28,7 @@ class LP_Box : public CalcForm {
  private:
   void showHint();
   void enlargePicture();
+  void updatePlot();
   QLineEdit* field(int n) const { return text_[size_t(n)]; }
   QComboBox* ownCombo(int n) const;
 
@@ -37,6 +39,7 @@ class LP_Box : public CalcForm {
   QComboBox *comboC1_, *comboC2_, *comboL1_, *comboL2_;
   QLabel *label4_, *label7_, *label10_;
   PictureBox* image1_;
+  FrequencyResponse* frequenzgang_;
   QPointer<QWidget> hint_;
   QPointer<QWidget> enlarged_;
 };

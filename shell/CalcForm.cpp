@@ -142,7 +142,7 @@ bool CalcForm::writeNumber(QLineEdit* field, double value, const QString& patter
   return true;
 }
 
-void CalcForm::computeEmptyField(const std::vector<Slot>& fieldSlots, const Solver& solve, int needed) {
+bool CalcForm::computeEmptyField(const std::vector<Slot>& fieldSlots, const Solver& solve, int needed) {
   std::vector<double> values;
   int known = 0;
   for (const Slot& s : fieldSlots) {
@@ -151,15 +151,15 @@ void CalcForm::computeEmptyField(const std::vector<Slot>& fieldSlots, const Solv
   }
   if (known < needed) {
     dialogs::msgBox(frame::kTwoValues);
-    return;
+    return false;
   }
   for (size_t i = 0; i < fieldSlots.size(); ++i) {
     if (!fieldSlots[i].field->text().isEmpty()) continue;
     const double result = solve(int(i), values);
-    writeResult(fieldSlots[i].field, fieldSlots[i].combo, fieldSlots[i].rule, result, fieldSlots[i].pattern);
-    return;
+    return writeResult(fieldSlots[i].field, fieldSlots[i].combo, fieldSlots[i].rule, result, fieldSlots[i].pattern);
   }
   dialogs::msgBox(frame::kMustBeEmpty);
+  return false;
 }
 
 void CalcForm::activated() {

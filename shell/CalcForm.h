@@ -77,6 +77,7 @@ class CalcForm : public QWidget {
 
   // The empty-field rule of the simple calculators: at least `needed` fields
   // above 0, the first exactly empty field in slot order is the unknown.
+  // True when the unknown was computed and written.
   struct Slot {
     QLineEdit* field;
     QComboBox* combo;  // may be null: a plain number
@@ -84,7 +85,7 @@ class CalcForm : public QWidget {
     QString pattern;
   };
   using Solver = std::function<double(int unknown, const std::vector<double>& values)>;
-  void computeEmptyField(const std::vector<Slot>& fieldSlots, const Solver& solve, int needed = 2);
+  bool computeEmptyField(const std::vector<Slot>& fieldSlots, const Solver& solve, int needed = 2);
 
   // Controls hidden while the form is printed (the buttons by default).
   virtual QList<QWidget*> hiddenWhilePrinting() const;

@@ -4,14 +4,10 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMdiArea>
-#include <QMdiSubWindow>
 #include <QPushButton>
-#include <algorithm>
 
 #include "shell/DialogService.h"
 #include "shell/FormRegistry.h"
-#include "shell/MDIForm1.h"
 #include "shell/core/Module1.h"
 #include "shell/core/NumberFormat.h"
 #include "superhet/SuperhetKurve.h"
@@ -170,35 +166,11 @@ void Superhet::clearFields() {
 }
 
 void Superhet::kurveZeigen() {
-  MDIForm1* main = mainWindow();
   if (!kurve_) {
     kurve_ = new SuperhetKurve(this);
     connect(kurve_, &SuperhetKurve::unloaded, this, [this] { kurve_ = nullptr; });
-    if (main) {
-      main->showChild(kurve_);
-      // A report-sized plot, as far as the main window has room for it;
-      // under this form when it fits there, so both stay readable.
-      QWidget* sub = kurve_->parentWidget();
-      const QSize room = main->mdiArea()->viewport()->size();
-      const QSize frame = sub->size() - kurve_->size();
-      const QSize least = kurve_->minimumSizeHint();
-      QSize want = QSize(760, 600).boundedTo(room - frame).expandedTo(least);
-      if (QWidget* own = subWindow()) {
-        const int below = room.height() - own->geometry().bottom() - 1 - frame.height();
-        if (below >= least.height()) {
-          want.setHeight(std::min(want.height(), below));
-          sub->move(own->x(), own->geometry().bottom() + 1);
-        }
-      }
-      sub->resize(want + frame);
-    } else {
-      kurve_->show();
-    }
-  } else if (main) {
-    main->showChild(kurve_);
-  } else {
-    kurve_->show();
   }
+  kurve_->zeigenUnter(this);
   kurve_->zeichnen();
 }
 

@@ -1,18 +1,9 @@
 #include "superhet/SuperhetKurve.h"
 
-#include <QApplication>
-#include <QCloseEvent>
-#include <QHBoxLayout>
-#include <QMdiSubWindow>
-#include <QPushButton>
-#include <QVBoxLayout>
 #include <vector>
 
-#include "shell/DialogService.h"
 #include "shell/OutputTarget.h"
 #include "shell/PictureBox.h"
-#include "shell/PrintService.h"
-#include "shell/core/Module1.h"
 #include "shell/core/NumberFormat.h"
 #include "superhet/Superhet.h"
 
@@ -28,41 +19,19 @@ const QColor kMarke(0xd0, 0x10, 0x10);
 
 }  // namespace
 
-SuperhetKurve::SuperhetKurve(Superhet* quelle) : quelle_(quelle) {
-  setObjectName("SuperhetKurve");
-  setWindowTitle(QStringLiteral("Superhet - Gleichlauffehler"));
-  setWindowIcon(QApplication::windowIcon());
-
-  picture1_ = new PictureBox("Picture1", this);
-  picture1_->setSurfacePicture(true);
-  // Below this the labels of the axes would run into one another.
-  picture1_->setMinimumSize(520, 364);
-
-  auto* command1 = new QPushButton(QStringLiteral("&Drucken"), this);
-  command1->setObjectName("Command1");
-  auto* command2 = new QPushButton(QStringLiteral("&Schliessen"), this);
-  command2->setObjectName("Command2");
-  for (QPushButton* b : {command1, command2}) b->setAutoDefault(false);
-  connect(command1, &QPushButton::clicked, this, [this] { drucken(); });
-  connect(command2, &QPushButton::clicked, this, [this] { schliessen(); });
-
-  auto* knoepfe = new QHBoxLayout;
-  knoepfe->addStretch(1);
-  knoepfe->addWidget(command1);
-  knoepfe->addWidget(command2);
-  auto* spalte = new QVBoxLayout(this);
-  spalte->addWidget(picture1_, 1);
-  spalte->addLayout(knoepfe);
-
+// The picture is no smaller than 520 x 364: below that the labels of the
+// axes would run into one another.
+SuperhetKurve::SuperhetKurve(Superhet* quelle)
+    : PlotWindow("SuperhetKurve", QStringLiteral("Superhet - Gleichlauffehler"), QSize(520, 364)), quelle_(quelle) {
   zeichnen();
 }
 
 void SuperhetKurve::zeichnen() {
-  picture1_->clear();
+  picture()->clear();
   if (!quelle_ || !quelle_->gueltig()) return;
   // The drawing keeps its own copy, so it redraws at any size without the form.
   const superhet::Gleichlauf g = quelle_->zustand();
-  picture1_->setSurface(kSkala, [g](OutputTarget& t) { zeichne(t, g); });
+  picture()->setSurface(kSkala, [g](OutputTarget& t) { zeichne(t, g); });
 }
 
 void SuperhetKurve::zeichne(OutputTarget& t, const superhet::Gleichlauf& g) {
@@ -111,27 +80,5 @@ void SuperhetKurve::zeichne(OutputTarget& t, const superhet::Gleichlauf& g) {
   for (int i = 0; i < 3; ++i) {
     t.circle({X(punkte[i]), Y(0)}, 8, Qt::white);
     t.text({X(punkte[i]), Y(0) - 40}, QStringLiteral("f%1").arg(i + 1), Qt::AlignHCenter | Qt::AlignVCenter);
-  }
-}
-
-void SuperhetKurve::drucken() {
-  QString fehler;
-  if (!printing::printPicture(picture1_, objectName(), &fehler))
-    dialogs::msgBox(fehler + Module1::NL + QStringLiteral("Das Formular kann nicht gedruckt werden."));
-  QApplication::processEvents();
-}
-
-void SuperhetKurve::schliessen() {
-  if (auto* sub = qobject_cast<QMdiSubWindow*>(parentWidget()))
-    sub->close();
-  else
-    close();
-}
-
-void SuperhetKurve::closeEvent(QCloseEvent* event) {
-  event->accept();
-  if (!entladen_) {
-    entladen_ = true;
-    emit unloaded();
   }
 }

@@ -67,4 +67,36 @@ ladder::Complex sumTransfer(const std::vector<Way>& ways, double f) {
   return s;
 }
 
+bode::Plot responsePlot(Mode mode, const NetworkValues& v, double fo, double fu) {
+  bode::Plot plot;
+  const std::vector<Way> all = ways(mode, v);
+  if (all.empty()) return plot;
+  const bool threeWay = mode == Mode::ThreeWay12;
+  if (threeWay && fu > 0) plot.markers.push_back({fu, QStringLiteral("fu = ") + bode::frequencyText(fu)});
+  if (fo > 0)
+    plot.markers.push_back({fo, (threeWay ? QStringLiteral("fo = ") : QStringLiteral("fT = ")) + bode::frequencyText(fo)});
+  std::vector<double> marked;
+  for (const bode::Marker& m : plot.markers) marked.push_back(m.f);
+  plot.f = bode::sweep(20, 20000, 481, marked);
+  plot.upper = {QStringLiteral("Pegel am Lautsprecher [dB]"), bode::Scale::Decibel, -40, 10, {}};
+  auto colour = [](const QString& name) {
+    if (name == QLatin1String("Tiefton")) return bode::Colour::Blue;
+    if (name == QLatin1String("Mittelton")) return bode::Colour::Green;
+    return bode::Colour::Red;
+  };
+  for (const Way& w : all) plot.upper.curves.push_back({w.name, colour(w.name), {}});
+  bode::Curve sum{QStringLiteral("Summe"), bode::Colour::Black, {}};
+  for (double f : plot.f) {
+    const std::vector<ladder::Complex> h = wayTransfers(all, f);
+    ladder::Complex total = 0;
+    for (size_t i = 0; i < h.size(); ++i) {
+      plot.upper.curves[i].y.push_back(ladder::decibels(h[i]));
+      total += h[i];
+    }
+    sum.y.push_back(ladder::decibels(total));
+  }
+  plot.upper.curves.push_back(std::move(sum));
+  return plot;
+}
+
 }  // namespace lpbox

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "crossover/core/Crossover.h"
+#include "shell/core/Bode.h"
 #include "shell/core/Ladder.h"
 
 namespace lpbox {
@@ -29,5 +30,10 @@ std::vector<Way> ways(Mode mode, const NetworkValues& v);
 // Voltage at each way's loudspeaker over the input voltage at f, and their sum.
 std::vector<ladder::Complex> wayTransfers(const std::vector<Way>& ways, double f);
 ladder::Complex sumTransfer(const std::vector<Way>& ways, double f);
+
+// The level at each loudspeaker and of their sum relative to the input,
+// 20 Hz to 20 kHz on -40..+10 dB, with the crossover frequency marked (the
+// three-way box: fo and fu). Empty when the network has no complete way.
+bode::Plot responsePlot(Mode mode, const NetworkValues& v, double fo, double fu = 0);
 
 }  // namespace lpbox

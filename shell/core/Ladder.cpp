@@ -65,6 +65,7 @@ std::vector<double> logSweep(double from, double to, int points) {
   if (points < 2 || !(from > 0) || !(to > from)) return f;
   const double l0 = std::log10(from), l1 = std::log10(to);
   for (int i = 0; i < points; ++i) f.push_back(std::pow(10.0, l0 + (l1 - l0) * i / (points - 1)));
+  f.front() = from;
   f.back() = to;
   return f;
 }
