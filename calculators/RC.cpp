@@ -3,6 +3,7 @@
 #include <QLabel>
 
 #include "calculators/core/RCCalc.h"
+#include "shell/ResponsePlot.h"
 #include "shell/FormRegistry.h"
 #include "shell/core/Arith.h"
 
@@ -31,6 +32,12 @@ RC::RC() : CalcForm("RC", "RC - Berechnung ") {
   showStandardValues(text2_, comboR_, eseries::Part::Resistor);
   showStandardValues(text3_, comboC_, eseries::Part::Capacitor);
   grid()->addWidget(makeLabel("Label4", "Bedingung : R = XC"), grid()->rowCount(), 0, 1, 3);
+  frequenzgang_ = new FrequencyResponse(this, buttonColumn());
+}
+
+void RC::clearFields() {
+  CalcForm::clearFields();
+  frequenzgang_->reset();
 }
 
 void RC::compute() {
@@ -55,4 +62,6 @@ void RC::compute() {
       });
   if (!solved) return;
   writeResult(text4_, comboT_, rc::timePlacement(), rc::timeConstant(values[1], values[2]), "###0.0###");
+  // Low- and high-pass of these R and C, the corner frequency marked.
+  frequenzgang_->setPlot(bode::rcFilter(values[1], values[2]));
 }

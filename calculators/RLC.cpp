@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include "calculators/core/RLCCalc.h"
+#include "shell/ResponsePlot.h"
 #include "shell/FormText.h"
 #include "shell/DialogService.h"
 #include "shell/FormRegistry.h"
@@ -106,16 +107,19 @@ RLC::RLC() : CalcForm("RLC", "RLC - Berechnung ") {
   grid()->addWidget(frame1, 0, 0);
   grid()->addWidget(frame2, 1, 0);
   grid()->addWidget(frame3, 2, 0);
+  frequenzgang_ = new FrequencyResponse(this, buttonColumn());
 }
 
 void RLC::clearResults() {
   for (QLineEdit* e : {text5_, text6_, text7_, text8_, text9_}) e->clear();
   label10_->clear();
+  frequenzgang_->reset();
 }
 
 void RLC::clearFields() {
   CalcForm::clearFields();
   label10_->clear();
+  frequenzgang_->reset();
 }
 
 void RLC::compute() {
@@ -137,4 +141,6 @@ void RLC::compute() {
     writeResult(text7_, comboZ_, rlc::resistancePlacement(), res.z, ohm);
   if (writeNumber(text8_, res.phi, "##0.0#")) label10_->setText(rlc::behaviour(res.phi));
   writeResult(text9_, comboF0_, rlc::frequencyPlacement(), res.f0, "####0.0#####");
+  // |Z| and phase of this circuit over frequency, f0 marked.
+  frequenzgang_->setPlot(bode::rlcImpedance(r > 0 ? r : 0.0, l, c, option2_->isChecked()));
 }

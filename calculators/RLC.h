@@ -3,6 +3,7 @@
 
 class QComboBox;
 class QLabel;
+class FrequencyResponse;
 class QLineEdit;
 class QRadioButton;
 
@@ -25,4 +26,5 @@ class RLC : public CalcForm {
   QLineEdit *text5_, *text6_, *text7_, *text8_, *text9_;
   QComboBox *comboXL_, *comboXC_, *comboZ_, *comboF0_;
   QLabel* label10_;
+  FrequencyResponse* frequenzgang_;
 };
