@@ -67,8 +67,6 @@ if(EXISTS ${shots})
   endforeach()
 endif()
 
-set(QUARZEL_INSTALL_PROGRAM_DIR ${CMAKE_INSTALL_PREFIX}/${QUARZEL_PROGRAM_DIR})
-set(QUARZEL_INSTALL_BINDIR ${CMAKE_INSTALL_FULL_BINDIR})
 set(QUARZEL_DESKTOP_FILE ${CMAKE_BINARY_DIR}/packaging/${QUARZEL_APP_ID}.desktop)
 set(QUARZEL_METAINFO_FILE ${CMAKE_BINARY_DIR}/packaging/${QUARZEL_APP_ID}.metainfo.xml)
 configure_file(${CMAKE_SOURCE_DIR}/packaging/quarzel.desktop.in ${QUARZEL_DESKTOP_FILE} @ONLY)
@@ -91,8 +89,7 @@ set(CPACK_PACKAGE_CONTACT "Quarzel <quarzel@localhost>")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "collection of electronics calculators (German user interface)")
 set(CPACK_PACKAGE_DESCRIPTION
   "Quarzel is a collection of electronics calculators for hobbyists and practitioners with a German user interface: Ohm's law, power, wire resistance, reactances, RL network, resonant circuit, voltage dividers, coil with core, loudspeaker crossovers and a heat-sink calculator over a transistor catalogue.")
-# A Debian package installs below /usr. The paths the manual page names come
-# from CMAKE_INSTALL_PREFIX, which the packaging script sets to /usr as well.
+# A Debian package installs below /usr.
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION electronics)

@@ -6,6 +6,6 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 source tools/setup.sh
 quarzel_ensure_packages "${QUARZEL_RUN_PACKAGES[@]}" dpkg-dev
-quarzel_build build-deb -DCMAKE_BUILD_TYPE=Release -DQUARZEL_TESTS=OFF -DCMAKE_INSTALL_PREFIX=/usr
+quarzel_build build-deb -DCMAKE_BUILD_TYPE=Release -DQUARZEL_TESTS=OFF
 (cd build-deb && cpack -G DEB >/dev/null)
 ls build-deb/quarzel_*.deb
