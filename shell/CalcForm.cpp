@@ -255,7 +255,7 @@ void CalcForm::showEvent(QShowEvent* event) {
   // over them while they are.
   QList<QWidget*> inputs, buttons;
   for (QWidget* w : findChildren<QWidget*>()) {
-    if (!(w->focusPolicy() & Qt::TabFocus)) continue;
+    if (!(w->focusPolicy() & Qt::TabFocus) || w->window() != window()) continue;  // not a combo's popup
     if (qobject_cast<QComboBox*>(w->parentWidget())) continue;  // an editable combo's own line edit
     (qobject_cast<QPushButton*>(w) ? buttons : inputs) << w;
   }

@@ -316,6 +316,7 @@ void MDIForm1::showChild(QWidget* form) {
     sub->setAttribute(Qt::WA_DeleteOnClose);
     sub->setWindowIcon(windowIcon());
     sub->adjustSize();
+    form->installEventFilter(this);
   }
   sub->show();
   form->show();
@@ -440,6 +441,16 @@ void MDIForm1::updateBackground() {
 
 bool MDIForm1::eventFilter(QObject* watched, QEvent* event) {
   if (watched == mdi_->viewport() && event->type() == QEvent::Resize) updateBackground();
+  if (event->type() == QEvent::LayoutRequest) {
+    // A form whose contents grew (a longer caption in another mode) gets a
+    // window large enough for them: no label is cut off.
+    auto* form = qobject_cast<QWidget*>(watched);
+    auto* sub = form ? qobject_cast<QMdiSubWindow*>(form->parentWidget()) : nullptr;
+    if (sub && sub->widget() == form && !sub->isMaximized() && !sub->isMinimized()) {
+      const QSize more = (form->sizeHint() - form->size()).expandedTo(QSize(0, 0));
+      if (more.width() > 0 || more.height() > 0) sub->resize(sub->size() + more);
+    }
+  }
   if (event->type() == QEvent::Shortcut) {
     auto* w = qobject_cast<QWidget*>(watched);
     if (w && w->window() == this && accessKey(static_cast<QShortcutEvent*>(event)->key())) return true;

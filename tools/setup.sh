@@ -1,6 +1,7 @@
 # Installs what building and testing Quarzel needs on Debian 12, if missing.
 # Sourced by ./run and ./test.
-QUARZEL_PACKAGES=(cmake ninja-build g++ qt6-base-dev libgl-dev libgtest-dev fonts-dejavu-core)
+QUARZEL_PACKAGES=(cmake ninja-build g++ qt6-base-dev libgl-dev libgtest-dev fonts-dejavu-core qt6-translations-l10n
+  poppler-utils)
 
 quarzel_ensure_packages() {
   local missing=()
