@@ -15,6 +15,7 @@
 #include <QMdiSubWindow>
 #include <QMenuBar>
 #include <QPainter>
+#include <QProxyStyle>
 #include <QProcess>
 #include <QScreen>
 #include <QStandardPaths>
@@ -142,6 +143,17 @@ QWidget* firstInput(QWidget* form) {
   return nullptr;
 }
 
+// Alt pressed and released alone selects the menu bar, whatever the style
+// does by default.
+class MenuBarStyle : public QProxyStyle {
+ public:
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* data) const override {
+    if (hint == SH_MenuBar_AltKeyNavigation) return 1;
+    return QProxyStyle::styleHint(hint, option, widget, data);
+  }
+};
+
 bool isSubMenu(size_t i) {
   const size_t n = sizeof kMenu / sizeof kMenu[0];
   return i + 1 < n && kMenu[i + 1].depth > kMenu[i].depth;
@@ -177,6 +189,9 @@ MDIForm1::MDIForm1(QWidget* parent) : QMainWindow(parent) {
   closeChild->setShortcuts(keys);
   connect(closeChild, &QAction::triggered, mdi_, &QMdiArea::closeActiveSubWindow);
   addAction(closeChild);
+  auto* menuStyle = new MenuBarStyle;
+  menuStyle->setParent(this);
+  menuBar()->setStyle(menuStyle);
   // F10 opens the first menu.
   auto* menuKey = new QAction(this);
   menuKey->setObjectName("MenuKey");
@@ -311,6 +326,7 @@ QWidget* MDIForm1::loadShared(const QString& name) {
 
 void MDIForm1::showChild(QWidget* form) {
   QMdiSubWindow* sub = qobject_cast<QMdiSubWindow*>(form->parentWidget());
+  const bool placed = sub != nullptr;
   if (!sub) {
     sub = mdi_->addSubWindow(form);
     sub->setAttribute(Qt::WA_DeleteOnClose);
@@ -320,7 +336,12 @@ void MDIForm1::showChild(QWidget* form) {
   }
   sub->show();
   form->show();
-  // A window wider or taller than the area starts at its top left corner.
+  // A new window opens wholly visible; one wider or taller than the area
+  // starts at its top left corner.
+  if (!placed) {
+    const QSize room = mdi_->viewport()->size();
+    if (sub->width() <= room.width() && sub->height() <= room.height()) keepInside(sub);
+  }
   if (sub->x() < 0 || sub->y() < 0) sub->move(std::max(0, sub->x()), std::max(0, sub->y()));
   mdi_->setActiveSubWindow(sub);
   // What the user types first goes into the first field, unless the form is
