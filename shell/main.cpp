@@ -2,6 +2,11 @@
 // (`quarzel --script FILE`) that drives the same windows headless.
 #include <QApplication>
 #include <QIcon>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QPainter>
+#include <QPixmap>
+#include <QTranslator>
 #include <cstring>
 
 #include "Version.h"
@@ -35,6 +40,12 @@ int main(int argc, char* argv[]) {
   QApplication::setApplicationVersion(Module1::versionString());
   QApplication::setWindowIcon(programIcon());
   QGuiApplication::setDesktopFileName(QStringLiteral(QUARZEL_APP_ID));
+  // Qt's own texts (a field's context menu, a child window's system menu)
+  // in German when the user's language is German.
+  QTranslator qtTexts;
+  if (QLocale::system().language() == QLocale::German &&
+      qtTexts.load(QLocale::system(), "qtbase", "_", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+    QApplication::installTranslator(&qtTexts);
   if (scripted) script::installSeams();
 
   MDIForm1 window;

@@ -1,11 +1,12 @@
 # Installs what building and testing Quarzel needs on Debian 12, if missing.
 # Sourced by ./run, ./test and tools/package.sh.
-# The program alone:
-QUARZEL_RUN_PACKAGES=(cmake ninja-build g++ qt6-base-dev libgl-dev)
+# The program alone (with Qt's German texts):
+QUARZEL_RUN_PACKAGES=(cmake ninja-build g++ qt6-base-dev libgl-dev qt6-translations-l10n)
 # Everything the build with its tests needs: the package test builds the .deb
 # (dpkg-dev brings dpkg-shlibdeps), the validators check the desktop entry
-# and the AppStream metadata.
-QUARZEL_PACKAGES=("${QUARZEL_RUN_PACKAGES[@]}" libgtest-dev fonts-dejavu-core dpkg-dev desktop-file-utils appstream)
+# and the AppStream metadata, the print test renders a PDF with pdftoppm.
+QUARZEL_PACKAGES=("${QUARZEL_RUN_PACKAGES[@]}" libgtest-dev fonts-dejavu-core dpkg-dev desktop-file-utils appstream
+  poppler-utils)
 
 quarzel_ensure_packages() {  # quarzel_ensure_packages [packages...]; none given: QUARZEL_PACKAGES
   local missing=() wanted=("$@")
