@@ -222,6 +222,20 @@ TEST_F(Suche, DamagedFilesGiveOneErrorAndNeverHang) {
   QFile::remove(pfad);
 }
 
+TEST_F(Suche, ARecordCutByTheEndOfAReadBlockReadsAsAWhole) {
+  // The header fills the first block up to a shift, so that the block ends
+  // in turn at every byte of the record: inside the quotes, between CR and
+  // LF, in a number and in the blanks around a field.
+  const QByteArray satz = "  \"Typ, A\" x ,  45 ,\t0.1e0 ,0.5,3,  npn \r\n";
+  for (int verschiebung = 0; verschiebung <= satz.size(); ++verschiebung) {
+    const QByteArray kopf = QByteArray(seqio::SequentialReader::BlockSize - verschiebung - 2, 'k') + "\r\n";
+    schreibe(kopf + satz + Ende);
+    t.typeName = "SC 239d";
+    EXPECT_EQ(ergebnis(suche(0.05f, 0.5f)), "Typ, A 3 0.5 | npn 45 0.1") << verschiebung;
+  }
+  EXPECT_TRUE(fehler.empty());
+}
+
 TEST(Katalog, ReadsWithoutErrorAndHasEveryKindOrderedWeakToStrong) {
   // The catalogue beside the program. This source file's name is relative
   // to the build directory, which is the parent of the test's folder.
