@@ -1,6 +1,6 @@
 # Installs what building and testing Quarzel needs on Debian 12, if missing.
 # Sourced by ./run and ./test.
-QUARZEL_PACKAGES=(cmake ninja-build g++ qt6-base-dev libgl-dev libgtest-dev fonts-dejavu-core)
+QUARZEL_PACKAGES=(cmake ninja-build g++ qt6-base-dev libgl-dev libgtest-dev libbenchmark-dev fonts-dejavu-core)
 
 quarzel_ensure_packages() {
   local missing=()
