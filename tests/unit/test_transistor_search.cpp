@@ -225,11 +225,13 @@ TEST_F(Suche, DamagedFilesGiveOneErrorAndNeverHang) {
 TEST_F(Suche, ARecordCutByTheEndOfAReadBlockReadsAsAWhole) {
   // The header fills the first block up to a shift, so that the block ends
   // in turn at every byte of the record: inside the quotes, between CR and
-  // LF, in a number and in the blanks around a field.
+  // LF, in a number and in the blanks around a field. What follows the end
+  // record fills the next block, so a field left pointing into the old one
+  // would read other bytes.
   const QByteArray satz = "  \"Typ, A\" x ,  45 ,\t0.1e0 ,0.5,3,  npn \r\n";
   for (int verschiebung = 0; verschiebung <= satz.size(); ++verschiebung) {
     const QByteArray kopf = QByteArray(seqio::SequentialReader::BlockSize - verschiebung - 2, 'k') + "\r\n";
-    schreibe(kopf + satz + Ende);
+    schreibe(kopf + satz + Ende + QByteArray(seqio::SequentialReader::BlockSize, 'p'));
     t.typeName = "SC 239d";
     EXPECT_EQ(ergebnis(suche(0.05f, 0.5f)), "Typ, A 3 0.5 | npn 45 0.1") << verschiebung;
   }
