@@ -8,6 +8,9 @@
 #include <QLocale>
 #include <QMap>
 #include <QTemporaryDir>
+#include <cstdlib>
+#include <random>
+#include <string>
 #include <sys/stat.h>
 #include <vector>
 
@@ -236,6 +239,21 @@ TEST_F(Suche, ARecordCutByTheEndOfAReadBlockReadsAsAWhole) {
     EXPECT_EQ(ergebnis(suche(0.05f, 0.5f)), "Typ, A 3 0.5 | npn 45 0.1") << verschiebung;
   }
   EXPECT_TRUE(fehler.empty());
+}
+
+TEST(Zahlenfeld, ShortDecimalsReadExactlyAsTheFullConversion) {
+  // Numbers of up to 15 digits take a short way; it must give the very
+  // double that the full conversion gives, for every position of the point.
+  std::mt19937_64 zufall(7);
+  for (int i = 0; i < 20000; ++i) {
+    const int stellen = 1 + int(zufall() % 15);
+    std::string text = std::to_string(zufall() % 1000000000000000ULL).substr(0, size_t(stellen));
+    text.insert(zufall() % (text.size() + 1), ".");
+    if (i % 3 == 0) text.insert(0, "-");
+    double v = 1.0;
+    ASSERT_EQ(seqio::parseNumber(text, v), seqio::Ok) << text;
+    EXPECT_EQ(v, std::strtod(text.c_str(), nullptr)) << text;
+  }
 }
 
 TEST(Katalog, ReadsWithoutErrorAndHasEveryKindOrderedWeakToStrong) {

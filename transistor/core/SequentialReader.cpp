@@ -11,7 +11,10 @@ namespace {
 
 bool isBlank(char c) { return c == ' ' || c == '\t'; }
 bool isLineEnd(char c) { return c == '\r' || c == '\n'; }
-bool isDelimiter(char c) { return c == ',' || c == '\r' || c == '\n'; }
+// As function objects, so that the scans inline them.
+constexpr auto lineEnd = [](char c) { return c == '\r' || c == '\n'; };
+constexpr auto delimiter = [](char c) { return c == ',' || c == '\r' || c == '\n'; };
+constexpr auto quote = [](char c) { return c == '"'; };
 bool isDigit(char c) { return c >= '0' && c <= '9'; }
 bool isSpace(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
 bool isExponent(char c) { return c == 'e' || c == 'E' || c == 'd' || c == 'D'; }
@@ -175,7 +178,7 @@ int SequentialReader::readLine(QString& line) {
     if (r == -1) return InputPastEnd;
   }
   std::string_view bytes;
-  const Scan s = scanUntil(isLineEnd, true, bytes);
+  const Scan s = scanUntil(lineEnd, true, bytes);
   if (s == Failed) return DeviceIoError;
   line = QString::fromLatin1(bytes.data(), qsizetype(bytes.size()));
   if (s == Found)
@@ -186,6 +189,41 @@ int SequentialReader::readLine(QString& line) {
 }
 
 int SequentialReader::readField(std::string_view& field) {
+  // Most fields lie whole in the block, delimiter included, with a byte to
+  // spare after a line end: they are taken where they lie. Any other field
+  // (across the block's end, at the end of the file, an empty line at the
+  // start of a line) goes the general way below, with the same rules.
+  const char* p = pos_;
+  while (p != end_ && isBlank(*p)) ++p;
+  if (p != end_ && !(lineStart_ && isLineEnd(*p))) {
+    const char* von = p;
+    const char* bis = nullptr;
+    const char* q = nullptr;
+    if (*p == '"') {
+      von = p + 1;
+      bis = std::find_if(von, end_, quote);
+      q = bis == end_ ? end_ : std::find_if(bis + 1, end_, delimiter);
+    } else {
+      q = std::find_if(p, end_, delimiter);
+      bis = q;
+      while (bis != von && isBlank(bis[-1])) --bis;
+    }
+    if (q != end_ && (*q == ',' || q + 1 != end_) && bis - von <= MaxFieldLength) {
+      field = std::string_view(von, size_t(bis - von));
+      if (*q == ',') {
+        pos_ = q + 1;
+        lineStart_ = false;
+      } else {
+        pos_ = q + (q[0] == '\r' && q[1] == '\n' ? 2 : 1);
+        lineStart_ = true;
+      }
+      return Ok;
+    }
+  }
+  return readFieldAcrossBlocks(field);
+}
+
+int SequentialReader::readFieldAcrossBlocks(std::string_view& field) {
   char c = 0;
   for (;;) {
     if (pos_ == end_) {
@@ -213,16 +251,16 @@ int SequentialReader::readField(std::string_view& field) {
   Scan s;
   if (c == '"') {
     ++pos_;
-    s = scanUntil([](char x) { return x == '"'; }, true, field);
+    s = scanUntil(quote, true, field);
     if (s == Found) {
       ++pos_;
       // Anything between the closing quote and the delimiter is dropped.
-      if (std::find_if(pos_, end_, isDelimiter) == end_) secure();
+      if (std::find_if(pos_, end_, delimiter) == end_) secure();
       std::string_view dropped;
-      s = scanUntil(isDelimiter, false, dropped);
+      s = scanUntil(delimiter, false, dropped);
     }
   } else {
-    s = scanUntil(isDelimiter, true, field);
+    s = scanUntil(delimiter, true, field);
     while (!field.empty() && isBlank(field.back())) field.remove_suffix(1);
   }
   if (s == Failed) return DeviceIoError;
@@ -253,31 +291,11 @@ int SequentialReader::readText(QString& value) {
   return r;
 }
 
-int parseNumber(std::string_view t, double& value) {
-  while (!t.empty() && isSpace(t.front())) t.remove_prefix(1);
-  while (!t.empty() && isSpace(t.back())) t.remove_suffix(1);
-  if (t.empty()) {
-    value = 0.0;
-    return Ok;
-  }
-  size_t i = 0;
-  const bool negative = t[0] == '-';
-  if (t[0] == '+' || t[0] == '-') ++i;
-  const size_t intStart = i;
-  unsigned long long whole = 0;
-  for (; i < t.size() && isDigit(t[i]); ++i) whole = whole * 10 + unsigned(t[i] - '0');
-  size_t digits = i - intStart;
-  // Plain whole numbers of up to 15 digits are exact in a double.
-  if (i == t.size() && digits > 0 && digits <= 15) {
-    value = negative ? -double(whole) : double(whole);
-    return Ok;
-  }
-  if (i < t.size() && t[i] == '.') {
-    const size_t fracStart = ++i;
-    while (i < t.size() && isDigit(t[i])) ++i;
-    digits += i - fracStart;
-  }
-  if (digits == 0) return TypeMismatch;
+namespace {
+
+// The rest of a number after its digits and point, t[i] on: an exponent, or
+// more digits than the short way takes. Converted by from_chars.
+[[gnu::noinline]] int parseLongNumber(std::string_view t, size_t i, double& value) {
   size_t exponentAt = t.size();
   if (i < t.size() && isExponent(t[i])) {
     exponentAt = i++;
@@ -308,6 +326,44 @@ int parseNumber(std::string_view t, double& value) {
   if (!std::isfinite(v)) return Overflow;
   value = v;
   return Ok;
+}
+
+}  // namespace
+
+int parseNumber(std::string_view t, double& value) {
+  while (!t.empty() && isSpace(t.front())) t.remove_prefix(1);
+  while (!t.empty() && isSpace(t.back())) t.remove_suffix(1);
+  if (t.empty()) {
+    value = 0.0;
+    return Ok;
+  }
+  size_t i = 0;
+  const bool negative = t[0] == '-';
+  if (t[0] == '+' || t[0] == '-') ++i;
+  const size_t intStart = i;
+  unsigned long long digitsValue = 0;
+  for (; i < t.size() && isDigit(t[i]); ++i) digitsValue = digitsValue * 10 + unsigned(t[i] - '0');
+  size_t digits = i - intStart;
+  size_t fracDigits = 0;
+  if (i < t.size() && t[i] == '.') {
+    const size_t fracStart = ++i;
+    for (; i < t.size() && isDigit(t[i]); ++i) digitsValue = digitsValue * 10 + unsigned(t[i] - '0');
+    fracDigits = i - fracStart;
+    digits += fracDigits;
+  }
+  if (digits == 0) return TypeMismatch;
+  // Up to 15 digits: the digits as a whole number and the power of ten are
+  // both exact in a double, so one division rounds the value exactly as
+  // the full conversion does.
+  if (i == t.size() && digits <= 15) {
+    static constexpr double kPow10[] = {1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7,
+                                        1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+    double v = double(digitsValue);
+    if (fracDigits > 0) v /= kPow10[fracDigits];
+    value = negative ? -v : v;
+    return Ok;
+  }
+  return parseLongNumber(t, i, value);
 }
 
 int parseNumberField(const QByteArray& field, double& value) {

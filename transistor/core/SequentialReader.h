@@ -87,6 +87,7 @@ class SequentialReader {
   // end of the file; the bytes passed go to the field unless `keep` is false.
   template <class Stop>
   Scan scanUntil(Stop stop, bool keep, std::string_view& field);
+  [[gnu::noinline]] int readFieldAcrossBlocks(std::string_view& field);
   void consumeLineEnd();  // at a CR or LF
   int readNumber(double& value);  // the next field as a number
 
