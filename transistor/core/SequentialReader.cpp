@@ -330,7 +330,9 @@ namespace {
 
 }  // namespace
 
-int parseNumber(std::string_view t, double& value) {
+namespace {
+
+[[gnu::always_inline]] inline int parseNumberInPlace(std::string_view t, double& value) {
   while (!t.empty() && isSpace(t.front())) t.remove_prefix(1);
   while (!t.empty() && isSpace(t.back())) t.remove_suffix(1);
   if (t.empty()) {
@@ -366,6 +368,10 @@ int parseNumber(std::string_view t, double& value) {
   return parseLongNumber(t, i, value);
 }
 
+}  // namespace
+
+int parseNumber(std::string_view t, double& value) { return parseNumberInPlace(t, value); }
+
 int parseNumberField(const QByteArray& field, double& value) {
   return parseNumber(std::string_view(field.constData(), size_t(field.size())), value);
 }
@@ -373,7 +379,7 @@ int parseNumberField(const QByteArray& field, double& value) {
 int SequentialReader::readNumber(double& value) {
   std::string_view field;
   const int r = readField(field);
-  return r != Ok ? r : parseNumber(field, value);
+  return r != Ok ? r : parseNumberInPlace(field, value);
 }
 
 int SequentialReader::readInt16(qint16& value) {
