@@ -191,8 +191,8 @@ int SequentialReader::readLine(QString& line) {
 int SequentialReader::readField(std::string_view& field) {
   // Most fields lie whole in the block, delimiter included, with a byte to
   // spare after a line end: they are taken where they lie. Any other field
-  // (across the block's end, at the end of the file, an empty line at the
-  // start of a line) goes the general way below, with the same rules.
+  // (across the block's end, at the end of the file, or after empty lines)
+  // goes the general way, with the same rules.
   const char* p = pos_;
   while (p != end_ && isBlank(*p)) ++p;
   if (p != end_ && !(lineStart_ && isLineEnd(*p))) {
