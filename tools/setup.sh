@@ -6,7 +6,7 @@ QUARZEL_RUN_PACKAGES=(cmake ninja-build g++ qt6-base-dev libgl-dev qt6-translati
 # (dpkg-dev brings dpkg-shlibdeps), the validators check the desktop entry
 # and the AppStream metadata, the print test renders a PDF with pdftoppm.
 QUARZEL_PACKAGES=("${QUARZEL_RUN_PACKAGES[@]}" libgtest-dev fonts-dejavu-core dpkg-dev desktop-file-utils appstream
-  poppler-utils)
+  poppler-utils libbenchmark-dev)
 
 quarzel_ensure_packages() {  # quarzel_ensure_packages [packages...]; none given: QUARZEL_PACKAGES
   local missing=() wanted=("$@")
