@@ -69,9 +69,9 @@ DrahtR::DrahtR() : CalcForm("DrahtR", QString::fromUtf8(" Leiter - Widerstand be
 
 void DrahtR::keyReleased(QLineEdit* field, int /*key*/) {
   // Diameter and cross-section describe the same wire: the one typed in
-  // gives the other. Only a key that changed the text counts, so a key that
-  // merely arrives in the other field (Tab, arrows) does not turn the
-  // rounded value back into the one the user typed.
+  // gives the other. Only a key that changed the text counts, so a swallowed
+  // character or a Backspace in an empty field does not turn the rounded
+  // value back into the one the user typed.
   if (field != text1_ && field != text7_) return;
   if (!edited_.remove(field)) return;
   QLineEdit* other = field == text1_ ? text7_ : text1_;

@@ -69,9 +69,8 @@ void Watt::compute() {
 }
 
 void Watt::keyReleased(QLineEdit* field, int key) {
-  // Delete keeps the other fields. Tab only moves on: its release arrives in
-  // the next field and must not empty fields the user has just filled.
-  if (key == Qt::Key_Delete || key == Qt::Key_Tab || key == Qt::Key_Backtab) return;
+  // Delete keeps the other fields.
+  if (key == Qt::Key_Delete) return;
   if (field == text1_) {
     text3_->clear();
     text4_->clear();

@@ -13,7 +13,7 @@ foreach(f IN LISTS QUARZEL_DATA_FILES)
 endforeach()
 add_custom_target(quarzel_data ALL DEPENDS ${QUARZEL_DATA_OUTPUTS})
 add_dependencies(quarzel quarzel_data)
-install(FILES ${QUARZEL_DATA_OUTPUTS} DESTINATION ${CMAKE_INSTALL_LIBEXECDIR}/quarzel)
+install(FILES ${QUARZEL_DATA_OUTPUTS} DESTINATION ${QUARZEL_PROGRAM_DIR})
 # Further generated data (the crossover pictures) is appended by crossover/pictures.cmake.
 if(EXISTS ${CMAKE_SOURCE_DIR}/crossover/pictures.cmake)
   include(${CMAKE_SOURCE_DIR}/crossover/pictures.cmake)

@@ -60,13 +60,6 @@ void keepPlace(QWidget* w) {
   w->setSizePolicy(p);
 }
 
-// Moves a child window back into the visible part of the main window.
-void keepInside(QWidget* sub, const QSize& room) {
-  const int x = std::max(0, std::min(sub->x(), room.width() - sub->width()));
-  const int y = std::max(0, std::min(sub->y(), room.height() - sub->height()));
-  sub->move(x, y);
-}
-
 }  // namespace
 
 LP_Box::LP_Box() : CalcForm("LP_Box", "Lautsprecher - Box") {
@@ -254,7 +247,7 @@ void LP_Box::showHint() {
     hint_ = w;
     main->showChild(w);
     w->parentWidget()->resize(main->mdiArea()->width() * 2 / 3, main->mdiArea()->height() / 2);
-    keepInside(w->parentWidget(), main->mdiArea()->viewport()->size());
+    main->keepInside(w->parentWidget());
   } else {
     main->showChild(hint_);
   }
@@ -295,5 +288,5 @@ void LP_Box::enlargePicture() {
   const QSize inner = room - frame;
   if (size.width() > inner.width() || size.height() > inner.height()) size.scale(inner, Qt::KeepAspectRatio);
   sub->resize(size + frame);
-  keepInside(sub, room);
+  main->keepInside(sub);
 }

@@ -17,4 +17,4 @@ add_custom_command(OUTPUT ${QUARZEL_PICTURES}
   VERBATIM)
 add_custom_target(quarzel_pictures ALL DEPENDS ${QUARZEL_PICTURES})
 add_dependencies(quarzel quarzel_pictures)
-install(FILES ${QUARZEL_PICTURES} DESTINATION ${CMAKE_INSTALL_LIBEXECDIR}/quarzel)
+install(FILES ${QUARZEL_PICTURES} DESTINATION ${QUARZEL_PROGRAM_DIR})

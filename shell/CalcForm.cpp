@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMdiSubWindow>
+#include <QPointer>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -40,10 +41,14 @@ CalcForm::CalcForm(const QString& name, const QString& caption, QWidget* parent)
   grid_ = new QGridLayout;
   grid_->setHorizontalSpacing(8);
   grid_->setVerticalSpacing(6);
-  row->addLayout(grid_, 1);
+  row->addLayout(grid_);
   buttons_ = new QVBoxLayout;
   row->addSpacing(12);
   row->addLayout(buttons_);
+  // A window made larger (maximized) keeps its contents as designed, at the
+  // top left corner; the room beyond stays empty.
+  row->addStretch(1);
+  outer->addStretch(1);
 
   QPushButton* b1 = makeButton("Command1", "&Berechnung");
   QPushButton* b2 = makeButton("Command2", "&Neu");
@@ -56,6 +61,20 @@ CalcForm::CalcForm(const QString& name, const QString& caption, QWidget* parent)
   connect(b2, &QPushButton::clicked, this, [this] { clearFields(); });
   connect(b3, &QPushButton::clicked, this, [this] { printForm(); });
   connect(b4, &QPushButton::clicked, this, [this] { closeForm(); });
+}
+
+bool CalcForm::editsText(const QKeyEvent* k) {
+  // Backspace and Delete, a typed character (whether the key filter lets it
+  // through or not), and the editing shortcuts (paste, cut, undo, redo).
+  // Modifiers, Tab, arrows, Home, End, page keys, Escape and function keys
+  // only move or do nothing to the text.
+  if (k->key() == Qt::Key_Backspace || k->key() == Qt::Key_Delete) return true;
+  if (k->matches(QKeySequence::Paste) || k->matches(QKeySequence::Cut) || k->matches(QKeySequence::Undo) ||
+      k->matches(QKeySequence::Redo))
+    return true;
+  if (k->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) return false;
+  const QString t = k->text();
+  return !t.isEmpty() && t.at(0).isPrint();
 }
 
 bool CalcForm::keyPasses(QChar c) {
@@ -190,15 +209,42 @@ void CalcForm::printForm() {
   for (QWidget* w : hidden) {
     if (!w->isHidden()) wasVisible << w;
   }
+  // On paper there is no focus frame, no cursor and no selection: the focus
+  // leaves the form while the image is taken and comes back afterwards.
+  printing_ = true;
+  QPointer<QWidget> hadFocus = focusWidget();
+  struct Selection {
+    QPointer<QLineEdit> field;
+    int start, length;
+  };
+  std::vector<Selection> selections;
+  for (QLineEdit* e : findChildren<QLineEdit*>()) {
+    if (e->hasSelectedText()) selections.push_back({e, e->selectionStart(), int(e->selectedText().size())});
+  }
+  if (hadFocus) hadFocus->clearFocus();
+  for (const Selection& s : selections) s.field->deselect();
+
   labelText_->show();
   for (QWidget* w : hidden) w->hide();
   if (layout()) layout()->activate();
+  // The identification line needs room of its own: the form grows for the
+  // printout so that nothing below it is squeezed or cut.
+  const QSize onScreen = size();
+  QSize needed = onScreen.expandedTo(sizeHint());
+  if (hasHeightForWidth()) needed.setHeight(std::max(needed.height(), heightForWidth(needed.width())));
+  if (needed != onScreen) resize(needed);
   QString error;
   const bool ok = printing::printWidgetImage(this, &error);
   QApplication::processEvents();
   if (!ok) dialogs::msgBox(error + Module1::NL + "Das Formular kann nicht gedruckt werden.");
   labelText_->hide();
   for (QWidget* w : wasVisible) w->show();
+  if (size() != onScreen) resize(onScreen);
+  for (const Selection& s : selections) {
+    if (s.field) s.field->setSelection(s.start, s.length);
+  }
+  if (hadFocus) hadFocus->setFocus(Qt::OtherFocusReason);
+  printing_ = false;
 }
 
 QMdiSubWindow* CalcForm::subWindow() const { return qobject_cast<QMdiSubWindow*>(parentWidget()); }
@@ -216,9 +262,11 @@ void CalcForm::showEvent(QShowEvent* event) {
   tabOrderSet_ = true;
   // Tab runs through the fields in reading order, row by row, and then
   // through the buttons.
+  // Controls hidden or disabled now take their place as well; Tab passes
+  // over them while they are.
   QList<QWidget*> inputs, buttons;
   for (QWidget* w : findChildren<QWidget*>()) {
-    if (!(w->focusPolicy() & Qt::TabFocus) || !w->isVisibleTo(this) || !w->isEnabled()) continue;
+    if (!(w->focusPolicy() & Qt::TabFocus) || w->window() != window()) continue;  // not a combo's popup
     if (qobject_cast<QComboBox*>(w->parentWidget())) continue;  // an editable combo's own line edit
     (qobject_cast<QPushButton*>(w) ? buttons : inputs) << w;
   }
@@ -232,7 +280,6 @@ void CalcForm::showEvent(QShowEvent* event) {
   std::stable_sort(buttons.begin(), buttons.end(), readingOrder);
   const QList<QWidget*> chain = inputs + buttons;
   for (qsizetype i = 1; i < chain.size(); ++i) QWidget::setTabOrder(chain[i - 1], chain[i]);
-  if (!inputs.isEmpty() && !focusWidget()) inputs.first()->setFocus(Qt::OtherFocusReason);
 }
 
 void CalcForm::closeEvent(QCloseEvent* event) {
@@ -249,6 +296,9 @@ bool CalcForm::eventFilter(QObject* watched, QEvent* event) {
   switch (event->type()) {
     case QEvent::KeyPress: {
       auto* k = static_cast<QKeyEvent*>(event);
+      if (editsText(k) && std::find(editKeys_.begin(), editKeys_.end(), std::make_pair(static_cast<const QLineEdit*>(field), k->key())) ==
+                              editKeys_.end())
+        editKeys_.emplace_back(field, k->key());
       const bool filtered = std::find(filtered_.begin(), filtered_.end(), field) != filtered_.end();
       // Characters are filtered; editing keys and shortcuts (copy, paste)
       // have no character of their own and pass.
@@ -262,11 +312,20 @@ bool CalcForm::eventFilter(QObject* watched, QEvent* event) {
     }
     case QEvent::KeyRelease: {
       auto* k = static_cast<QKeyEvent*>(event);
-      if (!k->isAutoRepeat()) keyReleased(field, k->key());
+      if (k->isAutoRepeat()) break;
+      // Only the release of a key whose press went to this same field and
+      // that edits text counts; a Tab, Shift or Alt pressed elsewhere and
+      // released here leaves the coupled fields alone.
+      const auto it = std::find(editKeys_.begin(), editKeys_.end(), std::make_pair(static_cast<const QLineEdit*>(field), k->key()));
+      if (it == editKeys_.end()) break;
+      editKeys_.erase(it);
+      keyReleased(field, k->key());
       break;
     }
     case QEvent::FocusOut:
-      focusLeft(field);
+      // A key still held when the focus leaves is released elsewhere.
+      std::erase_if(editKeys_, [field](const auto& p) { return p.first == field; });
+      if (!printing_) focusLeft(field);
       break;
     default:
       break;

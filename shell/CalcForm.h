@@ -12,11 +12,13 @@
 #include <QWidget>
 #include <functional>
 #include <map>
+#include <utility>
 #include <vector>
 
 #include "shell/core/StandardValues.h"
 #include "shell/core/UnitPrefix.h"
 
+class QKeyEvent;
 class QLabel;
 class QPushButton;
 class QVBoxLayout;
@@ -41,6 +43,9 @@ class CalcForm : public QWidget {
 
   // Text fields whose keys pass the frame's key filter.
   static bool keyPasses(QChar c);
+  // A key that changes a field's text, as opposed to one that moves the
+  // focus or the cursor.
+  static bool editsText(const QKeyEvent* key);
 
  signals:
   void unloaded();
@@ -90,7 +95,8 @@ class CalcForm : public QWidget {
   // Controls hidden while the form is printed (the buttons by default).
   virtual QList<QWidget*> hiddenWhilePrinting() const;
 
-  // Key released in a field (after the key filter), focus leaving a control.
+  // Key released in a field whose press went to the same field and that
+  // edits text (characters, Backspace, Delete, paste); focus leaving a field.
   virtual void keyReleased(QLineEdit*, int /*key*/) {}
   virtual void focusLeft(QWidget*) {}
 
@@ -108,6 +114,9 @@ class CalcForm : public QWidget {
   QVBoxLayout* buttons_;
   std::map<const QComboBox*, units::UnitList> units_;
   std::vector<QLineEdit*> filtered_;
+  // Editing keys pressed in a field and not yet released there.
+  std::vector<std::pair<const QLineEdit*, int>> editKeys_;
+  bool printing_ = false;
   bool unloadedOnce_ = false;
   bool tabOrderSet_ = false;
 };

@@ -4,12 +4,18 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QAbstractButton>
 #include <QCloseEvent>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QWindow>
 #include <QLockFile>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
 #include <QPainter>
+#include <QProxyStyle>
 #include <QProcess>
 #include <QScreen>
 #include <QStandardPaths>
@@ -116,6 +122,50 @@ const Combination kCombinations[] = {
     {"mnuParL", "ParL"},
 };
 
+// The access key of a caption ("&Berechnung" gives B), or a null character.
+QChar accessKeyOf(const QString& caption) {
+  for (qsizetype i = 0; i + 1 < caption.size(); ++i) {
+    if (caption[i] != '&') continue;
+    if (caption[i + 1] == '&') {
+      ++i;
+      continue;
+    }
+    return caption[i + 1].toUpper();
+  }
+  return QChar();
+}
+
+// What an access key of a form reaches: a button or option itself, or the
+// field a label stands for.
+QWidget* accessTarget(QWidget* w) {
+  if (auto* l = qobject_cast<QLabel*>(w)) return l->buddy();
+  return w;
+}
+
+// The first control in the form's Tab order that takes input (not a push
+// button), or nullptr.
+QWidget* firstInput(QWidget* form) {
+  QWidget* w = form;
+  do {
+    w = w->nextInFocusChain();
+    if (w != form && form->isAncestorOf(w) && (w->focusPolicy() & Qt::TabFocus) && w->isVisible() &&
+        w->isEnabled() && !qobject_cast<QPushButton*>(w))
+      return w;
+  } while (w != form);
+  return nullptr;
+}
+
+// Alt pressed and released alone selects the menu bar, whatever the style
+// does by default.
+class MenuBarStyle : public QProxyStyle {
+ public:
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* data) const override {
+    if (hint == SH_MenuBar_AltKeyNavigation) return 1;
+    return QProxyStyle::styleHint(hint, option, widget, data);
+  }
+};
+
 bool isSubMenu(size_t i) {
   const size_t n = sizeof kMenu / sizeof kMenu[0];
   return i + 1 < n && kMenu[i + 1].depth > kMenu[i].depth;
@@ -139,6 +189,32 @@ MDIForm1::MDIForm1(QWidget* parent) : QMainWindow(parent) {
   setCentralWidget(mdi_);
   connect(mdi_, &QMdiArea::subWindowActivated, this, &MDIForm1::onSubWindowActivated);
   buildMenu();
+
+  // Ctrl+F4 closes the active child window, as Ctrl+W does; a key the
+  // child windows bring along themselves is not taken twice.
+  auto* closeChild = new QAction(this);
+  closeChild->setObjectName("CloseChild");
+  QList<QKeySequence> keys;
+  const QList<QKeySequence> own = QKeySequence::keyBindings(QKeySequence::Close);
+  for (const QKeySequence& k : {QKeySequence(Qt::CTRL | Qt::Key_F4), QKeySequence(Qt::CTRL | Qt::Key_W)})
+    if (!own.contains(k)) keys << k;
+  closeChild->setShortcuts(keys);
+  connect(closeChild, &QAction::triggered, mdi_, &QMdiArea::closeActiveSubWindow);
+  addAction(closeChild);
+  auto* menuStyle = new MenuBarStyle;
+  menuStyle->setParent(this);
+  menuBar()->setStyle(menuStyle);
+  // F10 opens the first menu.
+  auto* menuKey = new QAction(this);
+  menuKey->setObjectName("MenuKey");
+  menuKey->setShortcut(Qt::Key_F10);
+  connect(menuKey, &QAction::triggered, this, [this] {
+    if (!menuBar()->actions().isEmpty()) menuBar()->setActiveAction(menuBar()->actions().first());
+  });
+  addAction(menuKey);
+
+  // Access keys of the active child form go before those of the menu bar.
+  qApp->installEventFilter(this);
 }
 
 MDIForm1::~MDIForm1() {
@@ -227,8 +303,32 @@ void MDIForm1::placeWindow() {
   const double pxPerTwipY = screen->logicalDotsPerInchY() / 1440.0;
   const int height = s.height() - int(kHeightMarginTwips * pxPerTwipY);
   const int width = s.width() - int(kDesignWidthTwips * pxPerTwipX / 2);
-  resize(width, height);
+  // The sizes are those of the whole window, title bar and frame included;
+  // the frame is known once the window manager has put one around it.
+  const QMargins frame = windowHandle() ? windowHandle()->frameMargins() : QMargins();
+  resize(width - frame.left() - frame.right(), height - frame.top() - frame.bottom());
   move(s.x() + (s.width() - width) / 2, s.y());
+  placed_ = true;
+}
+
+void MDIForm1::placeWithFrame() {
+  // Placed before it was shown, the window did not have its frame yet: the
+  // first time the frame is known, the window is placed again.
+  if (!placed_ || framePlaced_ || !windowHandle() || (windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen)))
+    return;
+  if (windowHandle()->frameMargins().isNull()) return;
+  framePlaced_ = true;
+  placeWindow();
+}
+
+void MDIForm1::moveEvent(QMoveEvent* event) {
+  QMainWindow::moveEvent(event);
+  placeWithFrame();
+}
+
+void MDIForm1::resizeEvent(QResizeEvent* event) {
+  QMainWindow::resizeEvent(event);
+  placeWithFrame();
 }
 
 QWidget* MDIForm1::loadShared(const QString& name) {
@@ -242,19 +342,41 @@ QWidget* MDIForm1::loadShared(const QString& name) {
 
 void MDIForm1::showChild(QWidget* form) {
   QMdiSubWindow* sub = qobject_cast<QMdiSubWindow*>(form->parentWidget());
+  const bool placed = sub != nullptr;
   if (!sub) {
     sub = mdi_->addSubWindow(form);
     sub->setAttribute(Qt::WA_DeleteOnClose);
     sub->setWindowIcon(windowIcon());
     sub->adjustSize();
+    form->installEventFilter(this);
     // Calculators (not the text windows) can be copied as text.
     if (form->objectName() != "frmAbout") formtext::install(form);
   }
   sub->show();
   form->show();
-  // A window wider or taller than the area starts at its top left corner.
+  // A new window opens wholly visible; one wider or taller than the area
+  // starts at its top left corner.
+  if (!placed) {
+    const QSize room = mdi_->viewport()->size();
+    if (sub->width() <= room.width() && sub->height() <= room.height()) keepInside(sub);
+  }
   if (sub->x() < 0 || sub->y() < 0) sub->move(std::max(0, sub->x()), std::max(0, sub->y()));
   mdi_->setActiveSubWindow(sub);
+  // What the user types first goes into the first field, unless the form is
+  // brought to the front with the focus already in one of its fields.
+  QWidget* focus = form->focusWidget();
+  if (!focus || !focus->isVisible() || !focus->isEnabled() || qobject_cast<QPushButton*>(focus))
+    focus = firstInput(form);
+  if (focus) focus->setFocus(Qt::OtherFocusReason);
+}
+
+void MDIForm1::keepInside(QWidget* sub) {
+  const QSize room = mdi_->viewport()->size();
+  if (room.isEmpty()) return;
+  sub->resize(sub->size().boundedTo(room));
+  const int x = std::max(0, std::min(sub->x(), room.width() - sub->width()));
+  const int y = std::max(0, std::min(sub->y(), room.height() - sub->height()));
+  sub->move(x, y);
 }
 
 QWidget* MDIForm1::showShared(const QString& name) {
@@ -309,18 +431,21 @@ void MDIForm1::showInfo() {
     shared_["frmAbout"] = about;
   }
   showChild(about);
+  keepInside(about->parentWidget());
 }
 
 void MDIForm1::showHelp() {
   frmAbout* w = frmAbout::help();
   showChild(w);
   w->parentWidget()->resize(mdi_->width() * 3 / 4, mdi_->height() * 3 / 4);
+  keepInside(w->parentWidget());
 }
 
 void MDIForm1::showLiterature() {
   frmAbout* w = frmAbout::literature();
   showChild(w);
   w->parentWidget()->resize(mdi_->width() * 2 / 3, mdi_->height() / 2);
+  keepInside(w->parentWidget());
 }
 
 void MDIForm1::startCalculator() {
@@ -362,7 +487,81 @@ void MDIForm1::updateBackground() {
 
 bool MDIForm1::eventFilter(QObject* watched, QEvent* event) {
   if (watched == mdi_->viewport() && event->type() == QEvent::Resize) updateBackground();
+  if (event->type() == QEvent::LayoutRequest) {
+    // A form whose contents grew (a longer caption in another mode) gets a
+    // window large enough for them: no label is cut off.
+    auto* form = qobject_cast<QWidget*>(watched);
+    auto* sub = form ? qobject_cast<QMdiSubWindow*>(form->parentWidget()) : nullptr;
+    if (sub && sub->widget() == form && !sub->isMaximized() && !sub->isMinimized()) {
+      const QSize more = (form->sizeHint() - form->size()).expandedTo(QSize(0, 0));
+      if (more.width() > 0 || more.height() > 0) sub->resize(sub->size() + more);
+    }
+  }
+  if (event->type() == QEvent::Shortcut) {
+    auto* w = qobject_cast<QWidget*>(watched);
+    if (w && w->window() == this && accessKey(static_cast<QShortcutEvent*>(event)->key())) return true;
+  }
   return QMainWindow::eventFilter(watched, event);
+}
+
+bool MDIForm1::accessKey(const QKeySequence& key) {
+  // While a child form is active, an Alt+letter that the form uses as an
+  // access key is the form's: "&Berechnung" before "&Berechnungen", and
+  // "&Drucken" before "&Datei". The menu bar keeps the letters the form
+  // does not use.
+  QMdiSubWindow* sub = mdi_->activeSubWindow();
+  QWidget* form = sub ? sub->widget() : nullptr;
+  if (!form || key.count() != 1 || key[0].keyboardModifiers() != Qt::AltModifier) return false;
+  const QChar letter = QChar(key[0].key()).toUpper();
+  if (!letter.isLetterOrNumber()) return false;
+  QList<QWidget*> targets;
+  for (QWidget* w : form->findChildren<QWidget*>()) {
+    if (!w->isVisible() || !w->isEnabled()) continue;
+    QString caption;
+    if (auto* b = qobject_cast<QAbstractButton*>(w))
+      caption = b->text();
+    else if (auto* l = qobject_cast<QLabel*>(w); l && l->buddy())
+      caption = l->text();
+    if (accessKeyOf(caption) != letter) continue;
+    QWidget* t = accessTarget(w);
+    if (t && t->isVisible() && t->isEnabled() && !targets.contains(t)) targets << t;
+  }
+  if (targets.isEmpty()) return false;  // not the form's: the menu bar's, as usual
+  if (targets.size() == 1) {
+    // One control has the letter: a button is pressed, a field gets the focus.
+    QWidget* t = targets.first();
+    if (t->focusPolicy() != Qt::NoFocus) t->setFocus(Qt::ShortcutFocusReason);
+    if (auto* b = qobject_cast<QAbstractButton*>(t)) b->click();
+    return true;
+  }
+  // Several controls share the letter: each press moves the focus to the next.
+  const qsizetype at = targets.indexOf(QApplication::focusWidget());
+  targets[(at + 1) % targets.size()]->setFocus(Qt::ShortcutFocusReason);
+  return true;
+}
+
+void MDIForm1::keyPressEvent(QKeyEvent* event) {
+  // Return or Enter that no control of the active child took: a focused
+  // button is pressed, otherwise the form's default button (its compute
+  // button).
+  QMdiSubWindow* sub = mdi_->activeSubWindow();
+  QWidget* form = sub ? sub->widget() : nullptr;
+  if (form && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) &&
+      !(event->modifiers() & ~Qt::KeypadModifier)) {
+    auto* focused = qobject_cast<QPushButton*>(QApplication::focusWidget());
+    QPushButton* button = focused && form->isAncestorOf(focused) ? focused : nullptr;
+    if (!button) {
+      for (QPushButton* b : form->findChildren<QPushButton*>()) {
+        if (b->isDefault() && b->isVisible() && b->isEnabled()) button = b;
+      }
+    }
+    if (button && button->isEnabled()) {
+      button->click();
+      event->accept();
+      return;
+    }
+  }
+  QMainWindow::keyPressEvent(event);
 }
 
 void MDIForm1::closeQuietly() {

@@ -30,6 +30,9 @@ class MDIForm1 : public QMainWindow {
   // The shared instance without showing it (created if needed).
   QWidget* loadShared(const QString& name);
   void showChild(QWidget* form);
+  // Moves (and if need be shrinks) a child window so that it lies wholly in
+  // the visible part of the window.
+  void keepInside(QWidget* subWindow);
   QWidget* activeForm() const;
   QList<QMdiSubWindow*> childWindows() const;
   void activate(QWidget* form);
@@ -47,6 +50,9 @@ class MDIForm1 : public QMainWindow {
  protected:
   void closeEvent(QCloseEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void moveEvent(QMoveEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   void buildMenu();
@@ -58,6 +64,8 @@ class MDIForm1 : public QMainWindow {
   void startCalculator();
   void onSubWindowActivated(QMdiSubWindow* sub);
   void placeWindow();
+  void placeWithFrame();
+  bool accessKey(const QKeySequence& key);
   void updateBackground();
 
   QMdiArea* mdi_;
@@ -68,6 +76,8 @@ class MDIForm1 : public QMainWindow {
   QPixmap backgroundPixmap_;
   bool quiet_ = false;
   bool quit_ = false;
+  bool placed_ = false;
+  bool framePlaced_ = false;
 };
 
 // The one main window of the running program.

@@ -20,11 +20,13 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSocketNotifier>
+#include <cerrno>
 #include <cstdio>
 #include <fstream>
-#include <iostream>
 #include <map>
 #include <memory>
+#include <unistd.h>
 
 #include "shell/Addition.h"
 #include "shell/CalcForm.h"
@@ -35,6 +37,11 @@
 #include "shell/PrintService.h"
 #include "shell/core/Json.h"
 #include "shell/core/Module1.h"
+
+// Qt's own dispatch of a key to shortcuts and access keys, exported by Qt
+// GUI for its key simulation; true when a shortcut took the key.
+Q_GUI_EXPORT bool qt_sendShortcutOverrideEvent(QObject* o, ulong timestamp, int k, Qt::KeyboardModifiers mods,
+                                               const QString& text, bool autorep, ushort count);
 
 namespace script {
 namespace {
@@ -252,15 +259,20 @@ class Runner {
     return c;
   }
 
-  void sendKey(QWidget* c, int key, const QString& text) {
+  // One key as a person presses it: shortcuts and access keys first, as Qt
+  // dispatches them, then the press to the control; the release goes where
+  // the focus is now (a Tab has moved it on, a shortcut may have moved it).
+  void sendKey(QWidget* c, int key, Qt::KeyboardModifiers mods, const QString& text) {
     QWidget* t = keyTarget(c);
-    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text);
-    QApplication::sendEvent(t, &press);
-    // The release goes where the focus is now (a Tab has moved it on).
+    if (!qt_sendShortcutOverrideEvent(t, 0, key, mods, text, false, 1)) {
+      QKeyEvent press(QEvent::KeyPress, key, mods, text);
+      QApplication::sendEvent(t, &press);
+    }
     QWidget* now = QApplication::focusWidget();
     QWidget* form = target();
     QWidget* releaseTo = (now && form && form->isAncestorOf(now)) ? now : t;
-    QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier, text);
+    if (!releaseTo) return;
+    QKeyEvent release(QEvent::KeyRelease, key, mods, text);
     QApplication::sendEvent(releaseTo, &release);
   }
 
@@ -273,23 +285,40 @@ class Runner {
     for (QChar ch : text) {
       int key = ch.toUpper().unicode();
       if (ch == ' ') key = Qt::Key_Space;
-      sendKey(c, key, QString(ch));
+      sendKey(c, key, Qt::NoModifier, QString(ch));
     }
   }
 
+  // A named key or key combination in Qt's portable notation: Backspace,
+  // Delete, Tab, Shift+Tab, Return, Enter, Esc, F10, Alt+B, Ctrl+F4, ...
   void namedKey(QWidget* c, const QString& name) {
     refuseDisabled(c);
+    const QKeySequence seq = QKeySequence::fromString(name, QKeySequence::PortableText);
+    if (name.isEmpty() || seq.count() != 1 || seq[0].key() == Qt::Key_unknown)
+      throw ScriptError{"unknown key " + name};
+    int key = seq[0].key();
+    Qt::KeyboardModifiers mods = seq[0].keyboardModifiers();
+    if (key == Qt::Key_Tab && (mods & Qt::ShiftModifier)) key = Qt::Key_Backtab;
+    if (key == Qt::Key_Enter) mods |= Qt::KeypadModifier;
+    QString text;
+    switch (key) {
+      case Qt::Key_Backspace: text = QString(QChar(8)); break;
+      case Qt::Key_Tab: text = "\t"; break;
+      case Qt::Key_Return:
+      case Qt::Key_Enter: text = "\r"; break;
+      case Qt::Key_Escape: text = QString(QChar(27)); break;
+      default:
+        if (key < 0x80 && QChar(key).isPrint()) {
+          const QChar ch = QChar(key);
+          text = (mods & Qt::ShiftModifier) ? QString(ch.toUpper()) : QString(ch.toLower());
+        }
+        break;
+    }
+    if (mods & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) text.clear();
     // As a person's key press: the control has the focus first, so that
     // press and release both reach it.
     keyTarget(c)->setFocus(Qt::OtherFocusReason);
-    if (name == "Backspace")
-      sendKey(c, Qt::Key_Backspace, QString(QChar(8)));
-    else if (name == "Delete")
-      sendKey(c, Qt::Key_Delete, QString());
-    else if (name == "Tab")
-      sendKey(c, Qt::Key_Tab, QString("\t"));
-    else
-      throw ScriptError{"unknown key " + name};
+    sendKey(c, key, mods, text);
   }
 
   void select(QWidget* c, const QString& indexText) {
@@ -493,43 +522,106 @@ void installSeams() {
   });
 }
 
-int run(MDIForm1& main, const QString& path) {
-  std::ifstream file;
-  std::istream* in = &std::cin;
-  if (path != "-") {
-    file.open(path.toLocal8Bit().constData());
-    if (!file) {
-      emitLine(json::Object().add("error", "cannot open script " + path).add("line", 0).str());
-      return 2;
+namespace {
+
+// What became of one line: the script goes on, or the program ends with a
+// status.
+constexpr int kGoOn = -1;
+
+int handleLine(Runner& runner, const QByteArray& raw, int lineNo) {
+  QString line = QString::fromUtf8(raw);
+  if (line.endsWith('\r')) line.chop(1);
+  const QString trimmed = line.trimmed();
+  if (trimmed.isEmpty() || trimmed.startsWith('#')) return kGoOn;
+  // Leading blanks before the command word are not part of any argument.
+  while (!line.isEmpty() && line[0].isSpace()) line.remove(0, 1);
+  try {
+    if (!runner.execute(line)) {
+      emitLine("{\"exit\":0}");
+      return 0;
     }
-    in = &file;
+  } catch (const ScriptError& e) {
+    emitLine(json::Object().add("error", e.what).add("line", lineNo).str());
+    return 2;
   }
-  Runner runner(main);
-  std::string raw;
-  int lineNo = 0;
-  settle();
-  while (std::getline(*in, raw)) {
-    ++lineNo;
-    QString line = QString::fromUtf8(raw.data(), qsizetype(raw.size()));
-    if (line.endsWith('\r')) line.chop(1);
-    const QString trimmed = line.trimmed();
-    if (trimmed.isEmpty() || trimmed.startsWith('#')) continue;
-    // Leading blanks before the command word are not part of any argument.
-    while (!line.isEmpty() && line[0].isSpace()) line.remove(0, 1);
-    try {
-      if (!runner.execute(line)) {
-        emitLine("{\"exit\":0}");
-        return 0;
-      }
-    } catch (const ScriptError& e) {
-      emitLine(json::Object().add("error", e.what).add("line", lineNo).str());
-      return 2;
-    }
-  }
+  return kGoOn;
+}
+
+int finish(MDIForm1& main) {
   main.closeQuietly();
   settle();
   emitLine("{\"exit\":0}");
   return 0;
+}
+
+// Standard input is read as it arrives, while the event loop runs: between
+// two commands the windows repaint and take a person's keys.
+class StdinReader : public QObject {
+ public:
+  StdinReader(MDIForm1& main, Runner& runner) : main_(main), runner_(runner), notifier_(0, QSocketNotifier::Read) {
+    connect(&notifier_, &QSocketNotifier::activated, this, &StdinReader::readable);
+  }
+
+ private:
+  void readable() {
+    // Commands run one after the other: no further input is taken while
+    // one of them lets events run.
+    notifier_.setEnabled(false);
+    char chunk[4096];
+    const ssize_t n = ::read(0, chunk, sizeof chunk);
+    if (n < 0 && (errno == EINTR || errno == EAGAIN)) {
+      notifier_.setEnabled(true);
+      return;
+    }
+    if (n > 0) buffer_.append(chunk, n);
+    for (qsizetype end = buffer_.indexOf('\n'); end >= 0; end = buffer_.indexOf('\n')) {
+      const QByteArray line = buffer_.left(end);
+      buffer_.remove(0, end + 1);
+      const int status = handleLine(runner_, line, ++lineNo_);
+      if (status != kGoOn) {
+        QCoreApplication::exit(status);
+        return;
+      }
+    }
+    if (n <= 0) {  // end of input; a last line without line break counts
+      int status = buffer_.isEmpty() ? kGoOn : handleLine(runner_, buffer_, ++lineNo_);
+      if (status == kGoOn) status = finish(main_);
+      QCoreApplication::exit(status);
+      return;
+    }
+    notifier_.setEnabled(true);
+  }
+
+  MDIForm1& main_;
+  Runner& runner_;
+  QSocketNotifier notifier_;
+  QByteArray buffer_;
+  int lineNo_ = 0;
+};
+
+}  // namespace
+
+int run(MDIForm1& main, const QString& path) {
+  Runner runner(main);
+  settle();
+  if (path == "-") {
+    // Only the end of the script ends the program, not its last window.
+    QApplication::setQuitOnLastWindowClosed(false);
+    StdinReader reader(main, runner);
+    return QApplication::exec();
+  }
+  std::ifstream file(path.toLocal8Bit().constData());
+  if (!file) {
+    emitLine(json::Object().add("error", "cannot open script " + path).add("line", 0).str());
+    return 2;
+  }
+  std::string raw;
+  int lineNo = 0;
+  while (std::getline(file, raw)) {
+    const int status = handleLine(runner, QByteArray(raw.data(), qsizetype(raw.size())), ++lineNo);
+    if (status != kGoOn) return status;
+  }
+  return finish(main);
 }
 
 }  // namespace script

@@ -2,29 +2,27 @@
 // (`quarzel --script FILE`) that drives the same windows headless.
 #include <QApplication>
 #include <QIcon>
+#include <QLibraryInfo>
+#include <QLocale>
 #include <QPainter>
 #include <QPixmap>
+#include <QTranslator>
 #include <cstring>
 
+#include "Version.h"
 #include "shell/MDIForm1.h"
 #include "shell/ScriptRunner.h"
 #include "shell/core/Module1.h"
 
 namespace {
 
+// The program's icon in every size the build drew (the same files the
+// desktop's icon theme gets).
 QIcon programIcon() {
-  QPixmap pm(64, 64);
-  pm.fill(Qt::transparent);
-  QPainter p(&pm);
-  p.setRenderHint(QPainter::Antialiasing);
-  p.setBrush(QColor(0x1f, 0x4e, 0x79));
-  p.setPen(Qt::NoPen);
-  p.drawRoundedRect(2, 2, 60, 60, 10, 10);
-  QPen pen(QColor(0xff, 0xd2, 0x4a), 4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
-  p.setPen(pen);
-  const QPointF zigzag[] = {{6, 32}, {16, 32}, {20, 20}, {28, 44}, {36, 20}, {44, 44}, {48, 32}, {58, 32}};
-  p.drawPolyline(zigzag, 8);
-  return QIcon(pm);
+  QIcon icon;
+  for (int size : {16, 22, 24, 32, 48, 64, 128, 256})
+    icon.addFile(QStringLiteral(":/icons/quarzel-%1.png").arg(size), QSize(size, size));
+  return icon;
 }
 
 }  // namespace
@@ -41,6 +39,13 @@ int main(int argc, char* argv[]) {
   QApplication::setApplicationName(Module1::AppTitle);
   QApplication::setApplicationVersion(Module1::versionString());
   QApplication::setWindowIcon(programIcon());
+  QGuiApplication::setDesktopFileName(QStringLiteral(QUARZEL_APP_ID));
+  // Qt's own texts (a field's context menu, a child window's system menu)
+  // in German when the user's language is German.
+  QTranslator qtTexts;
+  if (QLocale::system().language() == QLocale::German &&
+      qtTexts.load(QLocale::system(), "qtbase", "_", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+    QApplication::installTranslator(&qtTexts);
   if (scripted) script::installSeams();
 
   MDIForm1 window;

@@ -1,10 +1,17 @@
 # Installs what building and testing Quarzel needs on Debian 12, if missing.
-# Sourced by ./run and ./test.
-QUARZEL_PACKAGES=(cmake ninja-build g++ qt6-base-dev libgl-dev libgtest-dev fonts-dejavu-core)
+# Sourced by ./run, ./test and tools/package.sh.
+# The program alone (with Qt's German texts):
+QUARZEL_RUN_PACKAGES=(cmake ninja-build g++ qt6-base-dev libgl-dev qt6-translations-l10n)
+# Everything the build with its tests needs: the package test builds the .deb
+# (dpkg-dev brings dpkg-shlibdeps), the validators check the desktop entry
+# and the AppStream metadata, the print test renders a PDF with pdftoppm.
+QUARZEL_PACKAGES=("${QUARZEL_RUN_PACKAGES[@]}" libgtest-dev fonts-dejavu-core dpkg-dev desktop-file-utils appstream
+  poppler-utils libbenchmark-dev)
 
-quarzel_ensure_packages() {
-  local missing=()
-  for p in "${QUARZEL_PACKAGES[@]}" "$@"; do
+quarzel_ensure_packages() {  # quarzel_ensure_packages [packages...]; none given: QUARZEL_PACKAGES
+  local missing=() wanted=("$@")
+  [ ${#wanted[@]} -eq 0 ] && wanted=("${QUARZEL_PACKAGES[@]}")
+  for p in "${wanted[@]}"; do
     dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")
   done
   [ ${#missing[@]} -eq 0 ] && return 0

@@ -8,6 +8,9 @@
 #include <QLocale>
 #include <QMap>
 #include <QTemporaryDir>
+#include <cstdlib>
+#include <random>
+#include <string>
 #include <sys/stat.h>
 #include <vector>
 
@@ -220,6 +223,37 @@ TEST_F(Suche, DamagedFilesGiveOneErrorAndNeverHang) {
   ASSERT_EQ(::mkfifo(QFile::encodeName(pfad).constData(), 0600), 0);
   EXPECT_EQ(fehlerNummer(QByteArray()), 75);
   QFile::remove(pfad);
+}
+
+TEST_F(Suche, ARecordCutByTheEndOfAReadBlockReadsAsAWhole) {
+  // The header fills the first block up to a shift, so that the block ends
+  // in turn at every byte of the record: inside the quotes, between CR and
+  // LF, in a number and in the blanks around a field. What follows the end
+  // record fills the next block, so a field left pointing into the old one
+  // would read other bytes.
+  const QByteArray satz = "  \"Typ, A\" x ,  45 ,\t0.1e0 ,0.5,3,  npn \r\n";
+  for (int verschiebung = 0; verschiebung <= satz.size(); ++verschiebung) {
+    const QByteArray kopf = QByteArray(seqio::SequentialReader::BlockSize - verschiebung - 2, 'k') + "\r\n";
+    schreibe(kopf + satz + Ende + QByteArray(seqio::SequentialReader::BlockSize, 'p'));
+    t.typeName = "SC 239d";
+    EXPECT_EQ(ergebnis(suche(0.05f, 0.5f)), "Typ, A 3 0.5 | npn 45 0.1") << verschiebung;
+  }
+  EXPECT_TRUE(fehler.empty());
+}
+
+TEST(Zahlenfeld, ShortDecimalsReadExactlyAsTheFullConversion) {
+  // Numbers of up to 15 digits take a short way; it must give the very
+  // double that the full conversion gives, for every position of the point.
+  std::mt19937_64 zufall(7);
+  for (int i = 0; i < 20000; ++i) {
+    const int stellen = 1 + int(zufall() % 15);
+    std::string text = std::to_string(zufall() % 1000000000000000ULL).substr(0, size_t(stellen));
+    text.insert(zufall() % (text.size() + 1), ".");
+    if (i % 3 == 0) text.insert(0, "-");
+    double v = 1.0;
+    ASSERT_EQ(seqio::parseNumber(text, v), seqio::Ok) << text;
+    EXPECT_EQ(v, std::strtod(text.c_str(), nullptr)) << text;
+  }
 }
 
 TEST(Katalog, ReadsWithoutErrorAndHasEveryKindOrderedWeakToStrong) {

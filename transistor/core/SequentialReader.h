@@ -8,9 +8,11 @@
 // - a line end (CR LF, CR or LF) ends a field just like a comma; empty lines
 //   between records are skipped;
 // - numbers use a point as decimal separator whatever the locale.
-// The text is 8-bit (Latin-1). Reading never keeps more than one buffer and
-// one field of bounded length in memory, so any file, however long its lines,
-// is read in one linear pass.
+// The text is 8-bit (Latin-1). The file is read in large blocks and the
+// fields are scanned where they lie in the block; only a field that runs
+// across the end of a block is copied, and never more than MaxFieldLength
+// bytes of it. So any file, however long its lines, is read in one linear
+// pass with one block and one bounded field in memory.
 //
 // Failures are reported as error numbers with their German descriptions:
 // 6 number too large for its field, 13 text where a number belongs,
@@ -20,6 +22,9 @@
 #include <QFile>
 #include <QString>
 #include <QtGlobal>
+#include <memory>
+#include <string>
+#include <string_view>
 
 namespace seqio {
 
@@ -38,7 +43,8 @@ QString errorDescription(int number);
 
 class SequentialReader {
  public:
-  SequentialReader() = default;
+  SequentialReader();
+  ~SequentialReader();
   SequentialReader(const SequentialReader&) = delete;
   SequentialReader& operator=(const SequentialReader&) = delete;
 
@@ -54,36 +60,50 @@ class SequentialReader {
     qint64 pos = 0;
     bool lineStart = true;
   };
-  Mark mark() const { return {bufStart_ + bufPos_, lineStart_}; }
+  Mark mark() const { return {blockStart_ + (pos_ - block_.get()), lineStart_}; }
   int reset(const Mark& m);  // Ok or an error number
 
   // Reads the rest of the current line; the line end is consumed.
   int readLine(QString& line);
+
+  // The next field's bytes, where they lie: valid until the next call on
+  // this reader.
+  int readField(std::string_view& field);
+
+  int readText(std::string& value);  // Latin-1 bytes
   int readText(QString& value);
   int readInt16(qint16& value);
   int readSingle(float& value);
 
   // Longest field or line that is kept; the rest of a longer one is skipped.
   static constexpr qsizetype MaxFieldLength = 4096;
+  // Bytes read from the file at a time.
+  static constexpr qsizetype BlockSize = 1024 * 1024;
 
  private:
-  int peek();  // next byte, -1 at the end, -2 on a device error
-  void advance() { ++bufPos_; }
-  int fill();
-  int readField(QByteArray& field);
+  enum Scan { Found, Ended, Failed };  // delimiter found, end of file, device error
+  int fill();  // 0, -1 at the end of the file, -2 on a device error
+  // Moves the read position to the first byte of `stop` (true) or to the
+  // end of the file; the bytes passed go to the field unless `keep` is false.
+  template <class Stop>
+  Scan scanUntil(Stop stop, bool keep, std::string_view& field);
+  [[gnu::noinline]] int readFieldAcrossBlocks(std::string_view& field);
+  void consumeLineEnd();  // at a CR or LF
   int readNumber(double& value);  // the next field as a number
-  int consumeLineEnd();  // after a CR or LF at the read position
 
   QFile file_;
-  QByteArray buf_;
-  qsizetype bufPos_ = 0;
-  qint64 bufStart_ = 0;
+  std::unique_ptr<char[]> block_;
+  const char* pos_ = nullptr;
+  const char* end_ = nullptr;
+  qint64 blockStart_ = 0;
   bool lineStart_ = true;
+  std::string spill_;  // a field that ran across the end of a block
 };
 
 // Parses the text of a numeric field: optional sign, digits with an optional
 // point, optional exponent; surrounding blanks are allowed, an empty field is
-// 0. Returns Ok or TypeMismatch.
+// 0. Returns Ok, TypeMismatch or Overflow (too large for a double).
+int parseNumber(std::string_view field, double& value);
 int parseNumberField(const QByteArray& field, double& value);
 
 }  // namespace seqio
