@@ -5,6 +5,7 @@
 #include <cmath>
 #include <vector>
 
+#include "shell/core/Module1.h"
 #include "shell/core/NumberFormat.h"
 
 namespace eseries {
@@ -111,8 +112,10 @@ QString valueText(double value, const units::UnitList& list) {
   const double limit = value * (1 + 1e-12);
   for (size_t k = 0; k < list.size(); ++k)
     if (list[k].factor() <= limit && list[k].factor() > list[unit].factor()) unit = k;
-  const QString number = numfmt::format(units::scaleTo(list, int(unit), value), "##0.0#");
-  if (number.isEmpty()) return {};
+  // Below 1 of the smallest unit the digits of the mantissa still show.
+  const double scaled = units::scaleTo(list, int(unit), value);
+  const QString number = numfmt::format(scaled, scaled >= 1 ? "##0.0#" : "0.0#####");
+  if (number.isEmpty() || !(Module1::ParseNumber(number) > 0)) return {};
   return number + ' ' + list[unit].name;
 }
 

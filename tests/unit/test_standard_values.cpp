@@ -31,6 +31,8 @@ TEST_F(GermanLocale, OhmsLawExampleGivesTheThreeResistorSeries) {
   EXPECT_EQ(eseries::describe(Series::E12, 990.0, units::resistance()), "E12 1,0 KOhm (+1,01 %)");
   EXPECT_EQ(eseries::describe(Series::E6, 0.5e-12, units::capacitance()), "E6 0,47 pF (-6,0 %)");
   EXPECT_EQ(eseries::describe(Series::E24, 2.0e-3, units::inductance()), "E24 2,0 mH (0 %)");
+  // Below the smallest unit the mantissa keeps its digits.
+  EXPECT_EQ(eseries::describe(Series::E12, 3.183e-14, units::capacitance()), "E12 0,033 pF (+3,68 %)");
   EXPECT_EQ(eseries::describe(Series::E24, 0.0, units::inductance()), "");
 }
 
