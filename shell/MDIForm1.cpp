@@ -5,7 +5,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
-#include <QLockFile>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
@@ -13,12 +12,12 @@
 #include <QProcess>
 #include <QScreen>
 #include <QStandardPaths>
-#include <QDir>
 
 #include "shell/CalcForm.h"
 #include "shell/DialogService.h"
 #include "shell/FormRegistry.h"
 #include "shell/frmAbout.h"
+#include "shell/core/InstanceLock.h"
 #include "shell/core/Module1.h"
 
 namespace {
@@ -190,9 +189,7 @@ bool MDIForm1::load() {
   // One running Quarzel per user; tests give each process its own key.
   QString key = qEnvironmentVariable("QUARZEL_INSTANCE");
   if (key.isEmpty()) key = qEnvironmentVariable("USER", "user");
-  static QLockFile lock(QDir::temp().filePath("quarzel-" + key + ".lock"));
-  lock.setStaleLockTime(0);
-  if (!lock.tryLock(0)) {
+  if (!instance::acquire(key)) {
     dialogs::msgBox(
         "Das Programm zweimal zu aktivieren ist nicht ratsam. Wenn Sie diese möglichkeit benötigen, so wenden Sie "
         "sich bitte an den Autor dieser Software.",
