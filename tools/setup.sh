@@ -1,6 +1,8 @@
 # Installs what building and testing Quarzel needs on Debian 12, if missing.
 # Sourced by ./run and ./test.
 QUARZEL_PACKAGES=(cmake ninja-build g++ qt6-base-dev libgl-dev libgtest-dev fonts-dejavu-core)
+# The fuzz targets need clang with its libFuzzer and sanitizer runtimes.
+QUARZEL_FUZZ_PACKAGES=(clang-14 libclang-rt-14-dev)
 
 quarzel_ensure_packages() {
   local missing=()
@@ -20,4 +22,8 @@ quarzel_build() {  # quarzel_build BUILD_DIR [cmake options...]
   shift
   cmake -S . -B "$dir" -G Ninja "$@" >/dev/null
   cmake --build "$dir" -j "$(nproc)"
+}
+
+quarzel_build_fuzz() {  # the core library and its fuzz targets, built with clang in build-fuzz
+  CC=clang-14 CXX=clang++-14 quarzel_build build-fuzz -DCMAKE_BUILD_TYPE=RelWithDebInfo -DQUARZEL_FUZZ=ON
 }
