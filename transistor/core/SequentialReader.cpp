@@ -176,7 +176,9 @@ int SequentialReader::readField(QByteArray& field) {
 
   if (c == '"') {
     advance();
-    while ((c = peek()) >= 0 && c != '"') {
+    // A line end closes a quoted field too, so that a missing closing quote
+    // costs one record and not the rest of the file.
+    while ((c = peek()) >= 0 && c != '"' && !isLineEnd(c)) {
       appendBounded(field, char(c));
       advance();
     }
