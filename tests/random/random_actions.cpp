@@ -116,7 +116,7 @@ class Driver {
     proc_->setProcessEnvironment(env);
     proc_->setWorkingDirectory(work_);
     proc_->start(exe_, {"--script", "-"});
-    if (!proc_->waitForStarted(timeoutMs_)) throw Finding{"the program does not start"};
+    if (!proc_->waitForStarted(timeoutMs_)) throw Finding{"the program does not start: " + proc_->errorString()};
     alive_ = true;
     send(rng_.bounded(2) ? "locale de_DE" : "locale C");
     send(rng_.bounded(2) ? "printer pdf print.pdf" : "printer none");
