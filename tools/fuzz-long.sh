@@ -24,7 +24,7 @@ one() {
   build-fuzz/tests/fuzz/fuzz_$t -runs="$runs" -timeout=10 -rss_limit_mb=2048 -print_final_stats=1 \
     -artifact_prefix="$out/" "$out/$t" "tests/fuzz/corpus/$t" >"$out/$t.log" 2>&1 &&
     echo "$t: $(grep -m1 'stat::number_of_executed_units' "$out/$t.log" | awk '{print $2}') inputs, no finding" ||
-    echo "$t: FINDING, see $out/$t.log"
+    echo "$t: ended early (a finding, or interrupted), see $out/$t.log"
 }
 if [ $parallel = 1 ]; then
   for t in "${targets[@]}"; do one "$t" & done

@@ -23,7 +23,6 @@
 #include <QProcess>
 #include <QRandomGenerator>
 #include <QRegularExpression>
-#include <QTextStream>
 #include <cstdio>
 
 namespace {
