@@ -10,7 +10,6 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QWindow>
-#include <QLockFile>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
@@ -19,13 +18,13 @@
 #include <QProcess>
 #include <QScreen>
 #include <QStandardPaths>
-#include <QDir>
 
 #include "shell/CalcForm.h"
 #include "shell/DialogService.h"
 #include "shell/FormRegistry.h"
 #include "shell/FormText.h"
 #include "shell/frmAbout.h"
+#include "shell/core/InstanceLock.h"
 #include "shell/core/Module1.h"
 
 namespace {
@@ -282,9 +281,7 @@ bool MDIForm1::load() {
   // One running Quarzel per user; tests give each process its own key.
   QString key = qEnvironmentVariable("QUARZEL_INSTANCE");
   if (key.isEmpty()) key = qEnvironmentVariable("USER", "user");
-  static QLockFile lock(QDir::temp().filePath("quarzel-" + key + ".lock"));
-  lock.setStaleLockTime(0);
-  if (!lock.tryLock(0)) {
+  if (!instance::acquire(key)) {
     dialogs::msgBox(
         "Das Programm zweimal zu aktivieren ist nicht ratsam. Wenn Sie diese möglichkeit benötigen, so wenden Sie "
         "sich bitte an den Autor dieser Software.",

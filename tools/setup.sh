@@ -7,6 +7,8 @@ QUARZEL_RUN_PACKAGES=(cmake ninja-build g++ qt6-base-dev libgl-dev qt6-translati
 # and the AppStream metadata, the print test renders a PDF with pdftoppm.
 QUARZEL_PACKAGES=("${QUARZEL_RUN_PACKAGES[@]}" libgtest-dev fonts-dejavu-core dpkg-dev desktop-file-utils appstream
   poppler-utils libbenchmark-dev)
+# The fuzz targets need clang with its libFuzzer and sanitizer runtimes.
+QUARZEL_FUZZ_PACKAGES=(clang-14 libclang-rt-14-dev)
 
 quarzel_ensure_packages() {  # quarzel_ensure_packages [packages...]; none given: QUARZEL_PACKAGES
   local missing=() wanted=("$@")
@@ -27,4 +29,8 @@ quarzel_build() {  # quarzel_build BUILD_DIR [cmake options...]
   shift
   cmake -S . -B "$dir" -G Ninja "$@" >/dev/null
   cmake --build "$dir" -j "$(nproc)"
+}
+
+quarzel_build_fuzz() {  # the core library and its fuzz targets, built with clang in build-fuzz
+  CC=clang-14 CXX=clang++-14 quarzel_build build-fuzz -DCMAKE_BUILD_TYPE=RelWithDebInfo -DQUARZEL_FUZZ=ON
 }

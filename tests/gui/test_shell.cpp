@@ -13,6 +13,7 @@
 #include "shell/CalcForm.h"
 #include "shell/MDIForm1.h"
 #include "shell/PrintService.h"
+#include "shell/core/InstanceLock.h"
 #include "support/GuiFixture.h"
 
 using dialogs::Answer;
@@ -172,6 +173,39 @@ class ShellTest : public QObject {
     first.closeWriteChannel();
     QVERIFY(first.waitForFinished(20000));
     QCOMPARE(first.exitCode(), 0);
+  }
+
+  void killedFirstInstanceDoesNotBlockTheNext() {
+    // A first instance killed outright, and one killed while it was still
+    // writing its lock file (which then stays empty): the next start runs.
+    const QString exe = qEnvironmentVariable("QUARZEL_EXE");
+    QVERIFY(!exe.isEmpty());
+    const QString key = "killed-" + QString::number(QCoreApplication::applicationPid());
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.insert("QUARZEL_INSTANCE", key);
+    for (const bool emptied : {false, true}) {
+      QProcess first;
+      first.setProcessEnvironment(env);
+      first.start(exe, {"--script", "-"});
+      QVERIFY(first.waitForStarted());
+      first.write("windows\n");
+      QVERIFY(first.waitForReadyRead(20000));
+      first.kill();
+      QVERIFY(first.waitForFinished(20000));
+      QCOMPARE(first.exitStatus(), QProcess::CrashExit);
+      if (emptied) QFile(instance::lockPath(key)).resize(0);
+
+      QProcess next;
+      next.setProcessEnvironment(env);
+      next.start(exe, {"--script", "-"});
+      next.write("windows\n");
+      next.closeWriteChannel();
+      QVERIFY(next.waitForFinished(20000));
+      const QString out = QString::fromUtf8(next.readAllStandardOutput());
+      QVERIFY2(out.startsWith("{\"windows\":[]}"), qPrintable(out));
+      QCOMPARE(next.exitCode(), 0);
+    }
+    QFile::remove(instance::lockPath(key));
   }
 };
 

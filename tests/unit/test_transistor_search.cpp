@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QLocale>
@@ -254,6 +255,69 @@ TEST(Zahlenfeld, ShortDecimalsReadExactlyAsTheFullConversion) {
     ASSERT_EQ(seqio::parseNumber(text, v), seqio::Ok) << text;
     EXPECT_EQ(v, std::strtod(text.c_str(), nullptr)) << text;
   }
+}
+
+TEST_F(Suche, HostileCataloguesEndInTheBoxOrTheGenericType) {
+  // Every question is answered Retry once, then Cancel; the file stays as it
+  // is, so the same error comes twice and the generic type follows.
+  antwort = [this](const DateiFehler&) {
+    return fehler.size() < 2 ? FehlerAntwort::Wiederholen : FehlerAntwort::Abbrechen;
+  };
+  const auto fragen = [this](const QByteArray& inhalt) {
+    schreibe(inhalt);
+    fehler.clear();
+    t.typeName = "SC 239d";
+    QElapsedTimer uhr;
+    uhr.start();
+    suche(0.01f, 0.3f);
+    EXPECT_LT(uhr.elapsed(), 20000) << inhalt.left(60).toHex().constData();
+    EXPECT_EQ(t.typeName, "0.3 W-Typ") << inhalt.left(60).toHex().constData();
+    EXPECT_EQ(t.packageCode, 0);
+    std::vector<int> nummern;
+    for (const DateiFehler& f : fehler) nummern.push_back(f.nummer);
+    return nummern;
+  };
+  using N = std::vector<int>;
+
+  // Binary garbage, with every byte value, quotes, commas and line ends.
+  for (unsigned seed : {1u, 2u, 3u}) {
+    std::mt19937 zufall(seed);
+    QByteArray muell(64 * 1024, '\0');
+    for (char& c : muell) c = char(zufall() % 256);
+    const N n = fragen(muell);
+    ASSERT_EQ(n.size(), 2u) << seed;
+    EXPECT_EQ(n[0], n[1]);
+  }
+  // Ten megabytes on one line: as a type name, as a number, as empty fields.
+  const QByteArray riesig(10 * 1024 * 1024, 'x');
+  EXPECT_EQ(fragen(Kopf + riesig), (N{62, 62}));
+  EXPECT_EQ(fragen(Kopf + "\"A\"," + riesig + ",0.1,0.5,1,\"npn\"\r\n" + Ende), (N{13, 13}));
+  EXPECT_EQ(fragen(Kopf + QByteArray(1024 * 1024, ',') + "x"), (N{13, 13}));
+  // Only LF or only CR as line ends, nothing fits: the end record's type.
+  const QByteArray schwach = "\"BC547\",45,0.1,0.01,1,\"npn\"\r\n";
+  EXPECT_EQ(fragen(QByteArray(Kopf + schwach + Ende).replace("\r\n", "\n")), N{});
+  EXPECT_EQ(fragen(QByteArray(Kopf + schwach + Ende).replace("\r\n", "\r")), N{});
+  // A truncated last record, an unbalanced quote, an empty file, a number
+  // too large for its field, a directory in the catalogue's place.
+  EXPECT_EQ(fragen(Kopf + schwach + "\"BD139\",80,1.5,12"), (N{62, 62}));
+  EXPECT_EQ(fragen(Kopf + schwach + "\"BD139,80,1.5,12.5,5,npn\r\n" + Ende), (N{13, 13}));
+  EXPECT_EQ(fragen(""), (N{62, 62}));
+  EXPECT_EQ(fragen(Kopf + "\"A\",45,0.1,1e400,1,\"npn\"\r\n" + Ende), (N{6, 6}));
+  QFile::remove(pfad);
+  ASSERT_TRUE(QDir(dir.path()).mkdir("Transist.dat"));
+  fehler.clear();
+  suche(0.01f, 0.3f);
+  EXPECT_EQ(t.typeName, "0.3 W-Typ");
+  ASSERT_EQ(fehler.size(), 2u);
+  EXPECT_EQ(fehler[1].nummer, 75);
+  QDir(dir.path()).rmdir("Transist.dat");
+
+  // A header line of ten megabytes is thrown away as a whole.
+  schreibe(riesig + "\r\n" + QByteArray(schwach).replace("0.01", "0.5") + Ende);
+  fehler.clear();
+  suche(0.01f, 0.3f);
+  EXPECT_EQ(t.typeName, "BC547");
+  EXPECT_TRUE(fehler.empty());
 }
 
 TEST(Katalog, ReadsWithoutErrorAndHasEveryKindOrderedWeakToStrong) {

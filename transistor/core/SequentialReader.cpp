@@ -14,7 +14,9 @@ bool isLineEnd(char c) { return c == '\r' || c == '\n'; }
 // As function objects, so that the scans inline them.
 constexpr auto lineEnd = [](char c) { return c == '\r' || c == '\n'; };
 constexpr auto delimiter = [](char c) { return c == ',' || c == '\r' || c == '\n'; };
-constexpr auto quote = [](char c) { return c == '"'; };
+// A line end closes a quoted field too, so that a missing closing quote
+// costs one record and not the rest of the file.
+constexpr auto quoteOrLineEnd = [](char c) { return c == '"' || c == '\r' || c == '\n'; };
 bool isDigit(char c) { return c >= '0' && c <= '9'; }
 bool isSpace(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
 bool isExponent(char c) { return c == 'e' || c == 'E' || c == 'd' || c == 'D'; }
@@ -201,8 +203,13 @@ int SequentialReader::readField(std::string_view& field) {
     const char* q = nullptr;
     if (*p == '"') {
       von = p + 1;
-      bis = std::find_if(von, end_, quote);
-      q = bis == end_ ? end_ : std::find_if(bis + 1, end_, delimiter);
+      bis = std::find_if(von, end_, quoteOrLineEnd);
+      if (bis == end_)
+        q = end_;
+      else if (*bis == '"')
+        q = std::find_if(bis + 1, end_, delimiter);
+      else
+        q = bis;  // no closing quote before the line end
     } else {
       q = std::find_if(p, end_, delimiter);
       bis = q;
@@ -251,8 +258,8 @@ int SequentialReader::readFieldAcrossBlocks(std::string_view& field) {
   Scan s;
   if (c == '"') {
     ++pos_;
-    s = scanUntil(quote, true, field);
-    if (s == Found) {
+    s = scanUntil(quoteOrLineEnd, true, field);
+    if (s == Found && *pos_ == '"') {
       ++pos_;
       // Anything between the closing quote and the delimiter is dropped.
       if (std::find_if(pos_, end_, delimiter) == end_) secure();

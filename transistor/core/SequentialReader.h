@@ -4,7 +4,7 @@
 //   comma or a line end and loses its trailing blanks;
 // - a field may be enclosed in double quotes (and must be if it holds a comma);
 //   whatever follows the closing quote up to the next comma or line end is
-//   dropped;
+//   dropped; a line end ends a quoted field whose closing quote is missing;
 // - a line end (CR LF, CR or LF) ends a field just like a comma; empty lines
 //   between records are skipped;
 // - numbers use a point as decimal separator whatever the locale.
