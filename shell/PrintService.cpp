@@ -47,6 +47,15 @@ std::unique_ptr<QPrinter> openDefault(QString* error) {
   return nullptr;
 }
 
+std::unique_ptr<QPrinter> start(QPainter& painter, QString* error) {
+  std::unique_ptr<QPrinter> printer = openDefault(error);
+  if (printer && !painter.begin(printer.get())) {
+    *error = QStringLiteral("Der Druckauftrag konnte nicht begonnen werden.");
+    printer.reset();
+  }
+  return printer;
+}
+
 void jobDone(const QString& formName, int pages) {
   if (g_observer) g_observer(formName, pages);
 }
@@ -54,14 +63,10 @@ void jobDone(const QString& formName, int pages) {
 void setObserver(std::function<void(const QString&, int)> observer) { g_observer = std::move(observer); }
 
 bool printWidgetImage(QWidget* widget, QString* error) {
-  std::unique_ptr<QPrinter> printer = openDefault(error);
-  if (!printer) return false;
   const QPixmap image = widget->grab();
   QPainter painter;
-  if (!painter.begin(printer.get())) {
-    *error = QStringLiteral("Der Druckauftrag konnte nicht begonnen werden.");
-    return false;
-  }
+  std::unique_ptr<QPrinter> printer = start(painter, error);
+  if (!printer) return false;
   // The form keeps its proportions and is scaled to the page width at most
   // as large as it looks on a 96 dpi screen.
   const QRect page = painter.viewport();
@@ -75,13 +80,9 @@ bool printWidgetImage(QWidget* widget, QString* error) {
 }
 
 bool printPicture(const PictureBox* picture, const QString& formName, QString* error) {
-  std::unique_ptr<QPrinter> printer = openDefault(error);
-  if (!printer) return false;
   QPainter painter;
-  if (!painter.begin(printer.get())) {
-    *error = QStringLiteral("Der Druckauftrag konnte nicht begonnen werden.");
-    return false;
-  }
+  std::unique_ptr<QPrinter> printer = start(painter, error);
+  if (!printer) return false;
   const QRectF page = painter.viewport();
   QSizeF size = picture->size();
   if (size.width() < 1 || size.height() < 1) size = picture->sizeHint();

@@ -6,6 +6,7 @@
 #include <functional>
 #include <memory>
 
+class QPainter;
 class QPrinter;
 class QWidget;
 class PictureBox;
@@ -18,6 +19,10 @@ void setMode(Mode mode, const QString& pdfFile = QString());
 // Opens the default printer for one job. On failure returns nullptr and a
 // description of the error.
 std::unique_ptr<QPrinter> openDefault(QString* error);
+
+// Opens the default printer and begins painting on it. On failure the
+// painter is not active and the error text says why.
+std::unique_ptr<QPrinter> start(QPainter& painter, QString* error);
 
 // Reports a finished job (script mode prints it).
 void jobDone(const QString& formName, int pages);

@@ -397,12 +397,8 @@ QStringList frmKuehlg2::druckZeilen() const {
 
 void frmKuehlg2::drucken() {
   QString fehler;
-  std::unique_ptr<QPrinter> drucker = printing::openDefault(&fehler);
   QPainter p;
-  if (drucker && !p.begin(drucker.get())) {
-    fehler = QStringLiteral("Der Druckauftrag konnte nicht begonnen werden.");
-    drucker.reset();
-  }
+  std::unique_ptr<QPrinter> drucker = printing::start(p, &fehler);
   if (!drucker) {
     dialogs::msgBox(fehler + Module1::NL + QStringLiteral("Das Formular kann nicht gedruckt werden."));
     return;

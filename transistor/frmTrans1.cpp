@@ -641,12 +641,8 @@ void frmTrans1::kuehlung() {
 
 void frmTrans1::drucken() {
   QString fehler;
-  std::unique_ptr<QPrinter> drucker = printing::openDefault(&fehler);
   QPainter p;
-  if (drucker && !p.begin(drucker.get())) {
-    fehler = QStringLiteral("Der Druckauftrag konnte nicht begonnen werden.");
-    drucker.reset();
-  }
+  std::unique_ptr<QPrinter> drucker = printing::start(p, &fehler);
   if (!drucker) {
     dialogs::msgBox(fehler + Module1::NL + QStringLiteral("Das Formular kann nicht gedruckt werden."));
     zeichnen();

@@ -16,8 +16,7 @@ inline units::Placement voltagePlacement() {
   return {{{Cmp::Greater, 1000.0, 2}, {Cmp::LessEq, 1.0, 0}}, 1};
 }
 inline units::Placement resistancePlacement() {
-  using units::Cmp;
-  return {{{Cmp::Greater, Module1::TenPow(6), 2}, {Cmp::Greater, 1000.0, 1}}, 0};
+  return units::resistanceRule();
 }
 inline units::Placement currentPlacement() {
   using units::Cmp;

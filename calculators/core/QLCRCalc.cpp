@@ -67,8 +67,7 @@ units::Placement seriesResistancePlacement() {
 }
 
 units::Placement resistancePlacement() {
-  using units::Cmp;
-  return {{{Cmp::Greater, Module1::TenPow(6), 2}, {Cmp::Greater, 1000.0, 1}}, 0};
+  return units::resistanceRule();
 }
 
 }  // namespace qlcr

@@ -25,13 +25,11 @@ inline const units::UnitList& timeUnits() {
 
 // ComboF: MHz KHz Hz. Exactly 1 MHz is shown as 1000 KHz, 1 kHz as 1000 Hz.
 inline units::Placement frequencyPlacement() {
-  using units::Cmp;
-  return {{{Cmp::Greater, Module1::TenPow(6), 0}, {Cmp::Greater, 1000.0, 1}}, 2};
+  return units::frequencyRule();
 }
 // ComboR: Ohm KOhm MOhm. Exactly 1000 Ohm stays in Ohm.
 inline units::Placement resistancePlacement() {
-  using units::Cmp;
-  return {{{Cmp::Greater, Module1::TenPow(6), 2}, {Cmp::Greater, 1000.0, 1}}, 0};
+  return units::resistanceRule();
 }
 // ComboC: pF nF µF. Exactly 1 µF is shown as 1000 nF.
 inline units::Placement capacitancePlacement() {

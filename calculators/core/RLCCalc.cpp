@@ -48,13 +48,11 @@ QString behaviour(double phi) {
 }
 
 units::Placement resistancePlacement() {
-  using units::Cmp;
-  return {{{Cmp::Greater, Module1::TenPow(6), 2}, {Cmp::Greater, 1000.0, 1}}, 0};
+  return units::resistanceRule();
 }
 
 units::Placement frequencyPlacement() {
-  using units::Cmp;
-  return {{{Cmp::Greater, Module1::TenPow(6), 0}, {Cmp::Greater, 1000.0, 1}}, 2};
+  return units::frequencyRule();
 }
 
 }  // namespace rlc

@@ -22,13 +22,11 @@ inline const units::UnitList& inductanceUnits() {
 
 // ComboF: MHz KHz Hz. Exactly 1 MHz is shown as 1000 KHz.
 inline units::Placement frequencyPlacement() {
-  using units::Cmp;
-  return {{{Cmp::Greater, Module1::TenPow(6), 0}, {Cmp::Greater, 1000.0, 1}}, 2};
+  return units::frequencyRule();
 }
 // ComboR: Ohm KOhm MOhm. Exactly 1000 Ohm stays in Ohm.
 inline units::Placement resistancePlacement() {
-  using units::Cmp;
-  return {{{Cmp::Greater, Module1::TenPow(6), 2}, {Cmp::Greater, 1000.0, 1}}, 0};
+  return units::resistanceRule();
 }
 // ComboL: H mH µH nH. Exactly 1 mH stays 1 mH, exactly 1 H stays 1 H.
 inline units::Placement inductancePlacement() {

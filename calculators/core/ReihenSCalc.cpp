@@ -14,7 +14,7 @@ std::optional<Mode> modeFor(const QString& tag) {
                 "1/R = 1/R1 + 1/R2",
                 &units::resistance(),
                 1,
-                {{{Cmp::Greater, Module1::TenPow(6), 2}, {Cmp::Greater, 1000.0, 1}}, 0},
+                units::resistanceRule(),
                 "Parallelschaltung von R"};
   }
   if (tag == "ReiheC") {

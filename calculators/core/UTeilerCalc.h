@@ -22,8 +22,7 @@ inline constexpr int kResistanceStart = 1;
 // Above 1 MOhm in MOhm, above 1 KOhm in KOhm: exactly 1000 Ohm stays in Ohm,
 // exactly 1 MOhm shows as 1000 KOhm.
 inline units::Placement resistancePlacement() {
-  using units::Cmp;
-  return {{{Cmp::Greater, Module1::TenPow(6), 2}, {Cmp::Greater, 1000.0, 1}}, 0};
+  return units::resistanceRule();
 }
 
 }  // namespace uteiler

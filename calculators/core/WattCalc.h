@@ -53,8 +53,7 @@ inline units::Placement voltagePlacement() {
   return {{{Cmp::GreaterEq, 1000.0, 2}, {Cmp::GreaterEq, 1.0, 1}, {Cmp::GreaterEq, Module1::TenPow(-3), 0}}, -1};
 }
 inline units::Placement resistancePlacement() {
-  using units::Cmp;
-  return {{{Cmp::Greater, Module1::TenPow(6), 2}, {Cmp::Greater, 1000.0, 1}}, 0};
+  return units::resistanceRule();
 }
 // Below 1 µA no unit fits.
 inline units::Placement currentPlacement() {

@@ -52,6 +52,14 @@ std::optional<Placed> place(const UnitList& list, const Placement& rule, double 
   return Placed{index, scaleTo(list, index, value)};
 }
 
+Placement resistanceRule() {
+  return {{{Cmp::Greater, Module1::TenPow(6), 2}, {Cmp::Greater, 1000.0, 1}}, 0};
+}
+
+Placement frequencyRule() {
+  return {{{Cmp::Greater, Module1::TenPow(6), 0}, {Cmp::Greater, 1000.0, 1}}, 2};
+}
+
 const UnitList& voltage() {
   static const UnitList l{{"mV", -3}, {"V", 0}, {"KV", 3}};
   return l;

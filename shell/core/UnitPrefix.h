@@ -47,6 +47,13 @@ double scaleTo(const UnitList& list, int index, double value);
 
 std::optional<Placed> place(const UnitList& list, const Placement& rule, double value);
 
+// The two rules most forms share, for the usual lists below: a resistance
+// above 10^6 Ohm in "MOhm", above 1000 Ohm in "KOhm", else in "Ohm" (exactly
+// 1000 Ohm stays "Ohm"); a frequency above 10^6 Hz in "MHz", above 1000 Hz
+// in "KHz", else in "Hz" (exactly 1 MHz is 1000 KHz).
+Placement resistanceRule();
+Placement frequencyRule();
+
 // The usual lists.
 const UnitList& voltage();     // mV V KV
 const UnitList& resistance();  // Ohm KOhm MOhm
