@@ -8,7 +8,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 source tools/setup.sh
-quarzel_ensure_packages "${QUARZEL_FUZZ_PACKAGES[@]}"
+quarzel_ensure_packages "${QUARZEL_RUN_PACKAGES[@]}" "${QUARZEL_FUZZ_PACKAGES[@]}"
 parallel=0
 if [ "${1:-}" = "--parallel" ]; then parallel=1; shift; fi
 runs=${1:-10000000}
