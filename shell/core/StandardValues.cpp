@@ -89,6 +89,15 @@ std::optional<Nearest> nearest(Series s, double value) {
   return Nearest{v, dev};
 }
 
+std::optional<double> atOrAbove(Series s, double value) {
+  int e = 0;
+  double m = 0;
+  if (!split(value, e, m)) return std::nullopt;
+  for (double c : mantissas(s))
+    if (c >= m * (1 - 1e-6)) return scaled(c, e);
+  return scaled(1.0, e + 1);
+}
+
 QString deviationText(double deviation) {
   const double percent = deviation * 100.0;
   QString t = numfmt::format(std::fabs(percent), "##0.0#");

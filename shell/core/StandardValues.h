@@ -28,6 +28,10 @@ struct Nearest {
 // lie outside 1e-30 to 1e30.
 std::optional<Nearest> nearest(Series s, double value);
 
+// The smallest standard value at or above `value`; a value that lies a
+// rounding error (10^-6 relative) above a standard value stays on it.
+std::optional<double> atOrAbove(Series s, double value);
+
 // The deviation as the forms show it: "+2,5 %", "-0,75 %", "0 %".
 QString deviationText(double deviation);
 

@@ -5,31 +5,12 @@
 
 #include "shell/core/Module1.h"
 #include "shell/core/NumberFormat.h"
+#include "shell/core/StandardValues.h"
 
 namespace verstaerker {
 namespace {
 
-constexpr std::array<double, 25> kE24 = {1.0, 1.1, 1.2, 1.3, 1.5, 1.6, 1.8, 2.0, 2.2, 2.4, 2.7, 3.0, 3.3,
-                                         3.6, 3.9, 4.3, 4.7, 5.1, 5.6, 6.2, 6.8, 7.5, 8.2, 9.1, 10.0};
-constexpr std::array<double, 13> kE12 = {1.0, 1.2, 1.5, 1.8, 2.2, 2.7, 3.3, 3.9, 4.7, 5.6, 6.8, 8.2, 10.0};
 constexpr double kPi2 = 6.28318530717958;
-
-// Mantissa 1 <= m < 10 and exponent of x; false for x not positive and finite.
-bool zerlegen(double x, double& m, double& k) {
-  if (!(x > 0) || !std::isfinite(x)) return false;
-  k = std::floor(Module1::Log10(x));
-  m = x / Module1::TenPow(k);
-  // Log10 is a rounding error off at exact decades.
-  if (m < 1) {
-    m *= 10;
-    k -= 1;
-  }
-  if (m >= 10) {
-    m /= 10;
-    k += 1;
-  }
-  return std::isfinite(m);
-}
 
 double parallel(double a, double b) { return a * b / (a + b); }
 
@@ -45,22 +26,11 @@ Wert wert(double v, const QString& einheit) {
 }  // namespace
 
 double E24(double x) {
-  double m = 0, k = 0;
-  if (!zerlegen(x, m, k)) return 0;
-  size_t i = 0;
-  while (i + 2 < kE24.size() && m >= kE24[i + 1]) ++i;
-  const double lo = kE24[i], hi = kE24[i + 1];
-  return (m < std::sqrt(lo * hi) ? lo : hi) * Module1::TenPow(k);
+  const auto n = eseries::nearest(eseries::Series::E24, x);
+  return n ? n->value : 0;
 }
 
-double E12up(double x) {
-  double m = 0, k = 0;
-  if (!zerlegen(x, m, k)) return 0;
-  for (double e : kE12) {
-    if (e >= m * (1 - 1e-6)) return e * Module1::TenPow(k);
-  }
-  return 10.0 * Module1::TenPow(k);
-}
+double E12up(double x) { return eseries::atOrAbove(eseries::Series::E12, x).value_or(0); }
 
 Art art(bool darlington) {
   if (darlington) return {1.38, 1000, 2, 1.0};
