@@ -3,7 +3,6 @@
 #include <QtTest>
 
 #include "shell/OutputTarget.h"
-#include "shell/PictureBox.h"
 
 class OutputTargetTest : public QObject {
   Q_OBJECT
@@ -33,25 +32,6 @@ class OutputTargetTest : public QObject {
     QVERIFY(qAbs(t.CurrentY() - (10 + t.TextHeight())) < 1e-9);
     t.text(QPointF(50, 50), "Mitte", Qt::AlignHCenter | Qt::AlignVCenter);
     QCOMPARE(t.texts(), QStringList({"12,5", "Mitte"}));
-  }
-
-  void pictureReportsTheTextsOfItsDrawing() {
-    PictureBox box("Picture1");
-    box.resize(300, 200);
-    QVERIFY(box.texts().isEmpty() && !box.isSurfacePicture());
-    box.setSurface(QRectF(0, 0, 100, 100), [](OutputTarget& t) {
-      t.line(QPointF(0, 0), QPointF(100, 100));
-      t.Print("a");
-      t.Print("b");
-    });
-    QCOMPARE(box.texts(), QStringList({"a", "b"}));
-    QVERIFY(!box.isEmpty());
-    // Drawn at another size, the same texts.
-    QImage img(900, 100, QImage::Format_ARGB32_Premultiplied);
-    QPainter p(&img);
-    QCOMPARE(box.paintSurface(p, QRectF(0, 0, 900, 100)), QStringList({"a", "b"}));
-    box.clear();
-    QVERIFY(box.isEmpty() && box.texts().isEmpty());
   }
 };
 

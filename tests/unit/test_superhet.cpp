@@ -61,26 +61,10 @@ TEST(SuperhetTracking, WorkedBands) {
   EXPECT_NEAR(kHz(*hi), 4.15, 0.01);
   EXPECT_NEAR(kHz(g.fe(int(hi - g.fehler.begin()))), 1328, 6);
 
-  const Ergebnis lw = band(150, 285);
-  ASSERT_EQ(lw.pruefung, Pruefung::Ok);
-  EXPECT_NEAR(pF(lw.werte.cte), 174.97, 0.005);
-  EXPECT_NEAR(uH(lw.werte.le), 1667.905, 0.0005);
-  EXPECT_NEAR(kHz(lw.werte.f1), 159.0, 0.05);
-  EXPECT_NEAR(kHz(lw.werte.f2), 217.5, 0.05);
-  EXPECT_NEAR(kHz(lw.werte.f3), 276.0, 0.05);
-  EXPECT_NEAR(pF(lw.werte.cto), 241.78, 0.005);
-  EXPECT_NEAR(uH(lw.werte.lo), 363.611, 0.0005);
-  EXPECT_NEAR(pF(lw.werte.cp), 255.51, 0.005);
-  EXPECT_NEAR(kHz(lw.werte.fehlerMax), 0.435, 0.0005);
-
-  const Ergebnis kw = band(5900, 12000);
-  ASSERT_EQ(kw.pruefung, Pruefung::Ok);
-  EXPECT_NEAR(pF(kw.werte.cte), 143.58, 0.005);
-  EXPECT_NEAR(uH(kw.werte.le), 1.131, 0.0005);
-  EXPECT_NEAR(uH(kw.werte.lo), 1.047, 0.0005);
-  EXPECT_NEAR(pF(kw.werte.cp), 7939.08, 0.005);
-  EXPECT_NEAR(pF(kw.werte.cto), 147.08, 0.005);
-  EXPECT_NEAR(kHz(kw.werte.fehlerMax), 2.919, 0.0005);
+  // Long and short wave (their components are checked through the form):
+  // the largest errors that set the plot's scale.
+  EXPECT_NEAR(kHz(band(150, 285).werte.fehlerMax), 0.435, 0.0005);
+  EXPECT_NEAR(kHz(band(5900, 12000).werte.fehlerMax), 2.919, 0.0005);
 
   // Cmin and Cmax change the components, not the curve.
   const Ergebnis anders = band(520, 1620, 455, 20, 400);
