@@ -13,11 +13,11 @@
 #include <QLineEdit>
 #include <QLocale>
 #include <QPushButton>
-#include <cstring>
 #include <map>
 #include <memory>
 #include <vector>
 
+#include "bench/Smoke.h"
 #include "shell/DialogService.h"
 #include "shell/FormRegistry.h"
 #include "shell/MDIForm1.h"
@@ -149,14 +149,8 @@ void druecken(benchmark::State& state, QString name, const Eingaben* e) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  bool smoke = false;
-  std::vector<char*> args;
-  for (int i = 0; i < argc; ++i) {
-    if (std::strcmp(argv[i], "--smoke") == 0)
-      smoke = true;
-    else
-      args.push_back(argv[i]);
-  }
+  bench::Arguments args = bench::arguments(argc, argv);
+  const bool smoke = args.smoke;
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   if (qEnvironmentVariableIsEmpty("QUARZEL_INSTANCE"))
     qputenv("QUARZEL_INSTANCE", "bench-" + QByteArray::number(QCoreApplication::applicationPid()));
@@ -179,8 +173,8 @@ int main(int argc, char** argv) {
     b->Unit(benchmark::kMicrosecond);
     if (smoke) b->Iterations(1);
   }
-  int n = int(args.size());
-  benchmark::Initialize(&n, args.data());
+  int n = args.count();
+  benchmark::Initialize(&n, args.rest.data());
   benchmark::RunSpecifiedBenchmarks();
   benchmark::Shutdown();
   fenster.closeQuietly();

@@ -10,10 +10,10 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 #include <cstdio>
-#include <cstring>
 #include <map>
 #include <vector>
 
+#include "bench/Smoke.h"
 #include "transistor/core/TransistorSuche.h"
 
 using namespace transistor;
@@ -74,15 +74,9 @@ void ErsterSatz(benchmark::State& state) { suche(state, 0.1f); }
 }  // namespace
 
 int main(int argc, char** argv) {
-  bool smoke = false;
-  std::vector<char*> args;
-  for (int i = 0; i < argc; ++i) {
-    if (std::strcmp(argv[i], "--smoke") == 0)
-      smoke = true;
-    else
-      args.push_back(argv[i]);
-  }
-  int n = int(args.size());
+  bench::Arguments args = bench::arguments(argc, argv);
+  const bool smoke = args.smoke;
+  int n = args.count();
   const std::vector<int64_t> groessen = smoke ? std::vector<int64_t>{1000} : std::vector<int64_t>{1000, 100000, 1000000};
   for (auto* b : {benchmark::RegisterBenchmark("KatalogSuche/SchlimmsterFall", SchlimmsterFall),
                   benchmark::RegisterBenchmark("KatalogSuche/ErsterSatz", ErsterSatz)}) {
@@ -90,7 +84,7 @@ int main(int argc, char** argv) {
     b->Unit(benchmark::kMillisecond);
     if (smoke) b->Iterations(1);
   }
-  benchmark::Initialize(&n, args.data());
+  benchmark::Initialize(&n, args.rest.data());
   benchmark::RunSpecifiedBenchmarks();
   benchmark::Shutdown();
   return 0;
