@@ -58,9 +58,24 @@ CalcForm::CalcForm(const QString& name, const QString& caption, QWidget* parent)
   for (QPushButton* b : {b1, b2, b3, b4}) buttons_->addWidget(b);
   buttons_->addStretch(1);
   connect(b1, &QPushButton::clicked, this, [this] { compute(); });
-  connect(b2, &QPushButton::clicked, this, [this] { clearFields(); });
+  connect(b2, &QPushButton::clicked, this, [this] {
+    clearFields();
+    // The next values are typed at once, not into the button.
+    if (QWidget* first = firstInput(this)) first->setFocus(Qt::OtherFocusReason);
+  });
   connect(b3, &QPushButton::clicked, this, [this] { printForm(); });
   connect(b4, &QPushButton::clicked, this, [this] { closeForm(); });
+}
+
+QWidget* CalcForm::firstInput(QWidget* form) {
+  QWidget* w = form;
+  do {
+    w = w->nextInFocusChain();
+    if (w != form && form->isAncestorOf(w) && (w->focusPolicy() & Qt::TabFocus) && w->isVisible() &&
+        w->isEnabled() && !qobject_cast<QPushButton*>(w))
+      return w;
+  } while (w != form);
+  return nullptr;
 }
 
 bool CalcForm::editsText(const QKeyEvent* k) {

@@ -41,6 +41,10 @@ class CalcForm : public QWidget {
   virtual void printForm();      // Command3
   void closeForm();              // Command4
 
+  // The first control in the form's Tab order that takes input (not a push
+  // button), or nullptr: it has the focus when the form opens and after "&Neu".
+  static QWidget* firstInput(QWidget* form);
+
   // Text fields whose keys pass the frame's key filter.
   static bool keyPasses(QChar c);
   // A key that changes a field's text, as opposed to one that moves the

@@ -141,18 +141,6 @@ QWidget* accessTarget(QWidget* w) {
   return w;
 }
 
-// The first control in the form's Tab order that takes input (not a push
-// button), or nullptr.
-QWidget* firstInput(QWidget* form) {
-  QWidget* w = form;
-  do {
-    w = w->nextInFocusChain();
-    if (w != form && form->isAncestorOf(w) && (w->focusPolicy() & Qt::TabFocus) && w->isVisible() &&
-        w->isEnabled() && !qobject_cast<QPushButton*>(w))
-      return w;
-  } while (w != form);
-  return nullptr;
-}
 
 // Alt pressed and released alone selects the menu bar, whatever the style
 // does by default.
@@ -363,7 +351,7 @@ void MDIForm1::showChild(QWidget* form) {
   // brought to the front with the focus already in one of its fields.
   QWidget* focus = form->focusWidget();
   if (!focus || !focus->isVisible() || !focus->isEnabled() || qobject_cast<QPushButton*>(focus))
-    focus = firstInput(form);
+    focus = CalcForm::firstInput(form);
   if (focus) focus->setFocus(Qt::OtherFocusReason);
 }
 
