@@ -279,15 +279,7 @@ TEST_F(Suche, HostileCataloguesEndInTheBoxOrTheGenericType) {
   };
   using N = std::vector<int>;
 
-  // Binary garbage, with every byte value, quotes, commas and line ends.
-  for (unsigned seed : {1u, 2u, 3u}) {
-    std::mt19937 zufall(seed);
-    QByteArray muell(64 * 1024, '\0');
-    for (char& c : muell) c = char(zufall() % 256);
-    const N n = fragen(muell);
-    ASSERT_EQ(n.size(), 2u) << seed;
-    EXPECT_EQ(n[0], n[1]);
-  }
+  // (Random bytes are the catalogue fuzz target's inputs.)
   // Ten megabytes on one line: as a type name, as a number, as empty fields.
   const QByteArray riesig(10 * 1024 * 1024, 'x');
   EXPECT_EQ(fragen(Kopf + riesig), (N{62, 62}));
